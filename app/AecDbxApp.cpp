@@ -1,0 +1,25 @@
+// AecDbxApp: start-up and tear-down of the module, and its exported entry point.
+#include "AecDbxApp.h"
+
+#include "BuildStamp.h"
+#include "ClassRegistration.h"
+#include "acutads.h"
+
+AcRx::AppRetCode AecDbxApp::On_kInitAppMsg(void* pkt)
+{
+    const AcRx::AppRetCode result = AcRxArxApp::On_kInitAppMsg(pkt);
+    Quarvo::RegisterModuleClasses();
+    acrxBuildClassHierarchy();
+    const AcString stamp = Quarvo::ModuleBuildStamp();
+    acutPrintf(L"\n[Release] Quarvo loaded! \tBuild time: %s", stamp.kwszPtr());
+    return result;
+}
+
+AcRx::AppRetCode AecDbxApp::On_kUnloadAppMsg(void* pkt)
+{
+    Quarvo::UnregisterModuleClasses();
+    AcRxArxApp::On_kUnloadAppMsg(pkt);
+    return AcRx::kRetOK;
+}
+
+IMPLEMENT_ARX_ENTRYPOINT(AecDbxApp)

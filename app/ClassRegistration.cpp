@@ -1,0 +1,68 @@
+// The module's runtime classes, in the order they are registered and deleted.
+// The tear-down order is deliberately not the reverse of registration: keep both tables
+// exactly as they stand when adding a class.
+#include "ClassRegistration.h"
+
+#include "rxboiler.h"
+
+namespace Quarvo {
+
+const ACHAR* const kApplicationName = L"QX_AEC_DB_APP";
+
+namespace {
+
+struct ClassEntry {
+    const ACHAR* name;
+    void (*rxInit)();
+    AcRxClass* (*desc)();
+};
+
+// Registration order: a parent always comes before its children.
+const std::vector<ClassEntry>& RegistrationTable()
+{
+    static const std::vector<ClassEntry> table = {
+    };
+    return table;
+}
+
+// Tear-down order.
+const std::vector<ClassEntry>& TearDownTable()
+{
+    static const std::vector<ClassEntry> table = {
+    };
+    return table;
+}
+
+std::vector<AcString> NamesOf(const std::vector<ClassEntry>& table)
+{
+    std::vector<AcString> names;
+    for (const ClassEntry& entry : table)
+        names.emplace_back(entry.name);
+    return names;
+}
+
+}  // namespace
+
+void RegisterModuleClasses()
+{
+    for (const ClassEntry& entry : RegistrationTable())
+        entry.rxInit();
+}
+
+void UnregisterModuleClasses()
+{
+    for (const ClassEntry& entry : TearDownTable())
+        deleteAcRxClass(entry.desc());
+}
+
+std::vector<AcString> RegistrationOrder()
+{
+    return NamesOf(RegistrationTable());
+}
+
+std::vector<AcString> TearDownOrder()
+{
+    return NamesOf(TearDownTable());
+}
+
+}  // namespace Quarvo
