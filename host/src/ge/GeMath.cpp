@@ -1,0 +1,29 @@
+// Small pieces of linear algebra that several geometry classes share.
+#include "GeMath.h"
+
+#include <cmath>
+
+namespace hostge {
+
+double angleInFullTurn(double angle)
+{
+    double folded = std::fmod(angle, kTwoPi);
+    if (folded < 0.0)
+        folded += kTwoPi;
+    // fmod of a value just below a whole turn can round up to the turn itself.
+    return folded >= kTwoPi ? 0.0 : folded;
+}
+
+AcGePoint2d coordinatesIn(const AcGeVector3d& u, const AcGeVector3d& v, const AcGeVector3d& w)
+{
+    // Solve the 2x2 Gram system [u.u u.v; u.v v.v] (s, t) = (w.u, w.v).
+    const double uu = u.dotProduct(u);
+    const double uv = u.dotProduct(v);
+    const double vv = v.dotProduct(v);
+    const double wu = w.dotProduct(u);
+    const double wv = w.dotProduct(v);
+    const double gram = uu * vv - uv * uv;
+    return AcGePoint2d((wu * vv - wv * uv) / gram, (wv * uu - wu * uv) / gram);
+}
+
+}  // namespace hostge
