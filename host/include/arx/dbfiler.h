@@ -1,0 +1,4 @@
+// The database filers.
+#pragma once
+
+#include "AcDbDwgFiler.h"

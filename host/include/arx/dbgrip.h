@@ -1,0 +1,4 @@
+// Grip data of the new grip protocol.
+#pragma once
+
+#include "AcDbGripData.h"

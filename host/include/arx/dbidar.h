@@ -1,0 +1,4 @@
+// AcDbObjectIdArray.
+#pragma once
+
+#include "dbid.h"

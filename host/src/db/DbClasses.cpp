@@ -1,0 +1,30 @@
+// The runtime classes of this area of the host, registered parents first.
+#include "rx/HostClasses.h"
+
+#include "AcDbDatabase.h"
+#include "AcDbDwgFiler.h"
+#include "AcDbObject.h"
+#include "dbsymtb.h"
+
+namespace hostdb {
+
+void registerDbClasses()
+{
+    AcDbDwgFiler::rxInit();
+    AcDbDatabase::rxInit();
+    AcDbObject::rxInit();
+    AcDbSymbolTable::rxInit();
+    AcDbSymbolTableRecord::rxInit();
+    AcDbBlockTable::rxInit();
+    AcDbLayerTable::rxInit();
+    AcDbLinetypeTable::rxInit();
+    AcDbTextStyleTable::rxInit();
+    AcDbDimStyleTable::rxInit();
+    AcDbBlockTableRecord::rxInit();
+    AcDbLayerTableRecord::rxInit();
+    AcDbLinetypeTableRecord::rxInit();
+    AcDbTextStyleTableRecord::rxInit();
+    AcDbDimStyleTableRecord::rxInit();
+}
+
+}  // namespace hostdb
