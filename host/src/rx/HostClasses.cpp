@@ -1,5 +1,4 @@
-// The host's own runtime classes, parents first. Each area of the host adds its
-// registration function here.
+// The host's own runtime classes, parents first.
 #include "HostClasses.h"
 
 #include "rxdlinkr.h"
@@ -10,6 +9,10 @@ void registerHostClasses()
 {
     AcRxDynamicLinker::rxInit();
     acrxSysRegistry()->atPut(ACRX_DYNAMIC_LINKER, new AcRxDynamicLinker());
+    hostgi::registerGiClasses();
+    hostdb::registerDbClasses();
+    hostents::registerEntityClasses();
+    hostpoly::registerPolylineClasses();
     acrxBuildClassHierarchy();
 }
 

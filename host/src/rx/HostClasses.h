@@ -7,3 +7,18 @@ namespace hostrx {
 void registerHostClasses();
 
 }  // namespace hostrx
+
+// Each area registers its classes, parents first; registerHostClasses calls them in the
+// order of the class tree (drawing before database objects before entities).
+namespace hostgi {
+void registerGiClasses();
+}
+namespace hostdb {
+void registerDbClasses();
+}
+namespace hostents {
+void registerEntityClasses();
+}
+namespace hostpoly {
+void registerPolylineClasses();
+}

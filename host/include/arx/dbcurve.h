@@ -1,0 +1,4 @@
+// The host's curve base class.
+#pragma once
+
+#include "AcDbCurve.h"

@@ -1,0 +1,4 @@
+// The host's multiline text.
+#pragma once
+
+#include "AcDbMText.h"
