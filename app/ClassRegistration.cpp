@@ -3,6 +3,8 @@
 // exactly as they stand when adding a class.
 #include "ClassRegistration.h"
 
+#include "geometry/QxPolylineBasedCurve.h"
+#include "openings/AecCircleOpening.h"
 #include "rxboiler.h"
 
 namespace Quarvo {
@@ -17,10 +19,21 @@ struct ClassEntry {
     AcRxClass* (*desc)();
 };
 
+template <typename T>
+ClassEntry Entry(const ACHAR* name)
+{
+    return ClassEntry{name, [] { T::rxInit(); }, &T::desc};
+}
+
 // Registration order: a parent always comes before its children.
 const std::vector<ClassEntry>& RegistrationTable()
 {
     static const std::vector<ClassEntry> table = {
+        // Steps 1-2: AecPanel, AecPanelLite.
+        Entry<QxPolylineBasedCurve>(L"QxPolylineBasedCurve"),  // step 3
+        // Steps 4-12: the lines, the layout boundary, OpeningGripData and the
+        // rectangular and polygonal openings.
+        Entry<AecCircleOpening>(L"AecCircleOpening"),  // step 13
     };
     return table;
 }
@@ -29,6 +42,11 @@ const std::vector<ClassEntry>& RegistrationTable()
 const std::vector<ClassEntry>& TearDownTable()
 {
     static const std::vector<ClassEntry> table = {
+        // AecPanel, AecPanelLite, AecRectOpening, OpeningGripData, the five lines.
+        Entry<QxPolylineBasedCurve>(L"QxPolylineBasedCurve"),
+        // AecPolyOpening.
+        Entry<AecCircleOpening>(L"AecCircleOpening"),
+        // AecLayoutBoundary.
     };
     return table;
 }
