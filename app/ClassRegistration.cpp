@@ -4,6 +4,7 @@
 #include "ClassRegistration.h"
 
 #include "geometry/QxPolylineBasedCurve.h"
+#include "lines/AecDivisionLine.h"
 #include "openings/AecCircleOpening.h"
 #include "rxboiler.h"
 
@@ -31,7 +32,8 @@ const std::vector<ClassEntry>& RegistrationTable()
     static const std::vector<ClassEntry> table = {
         // Steps 1-2: AecPanel, AecPanelLite.
         Entry<QxPolylineBasedCurve>(L"QxPolylineBasedCurve"),  // step 3
-        // Steps 4-12: the lines, the layout boundary, OpeningGripData and the
+        Entry<AecDivisionLine>(L"AecDivisionLine"),            // step 4
+        // Steps 5-12: the other four lines, the layout boundary, OpeningGripData and the
         // rectangular and polygonal openings.
         Entry<AecCircleOpening>(L"AecCircleOpening"),  // step 13
     };
@@ -42,7 +44,9 @@ const std::vector<ClassEntry>& RegistrationTable()
 const std::vector<ClassEntry>& TearDownTable()
 {
     static const std::vector<ClassEntry> table = {
-        // AecPanel, AecPanelLite, AecRectOpening, OpeningGripData, the five lines.
+        // AecPanel, AecPanelLite, AecRectOpening, OpeningGripData.
+        Entry<AecDivisionLine>(L"AecDivisionLine"),
+        // AecOverlapLine, AecStructuralLine, AecSteelMember, AecShouBianLine.
         Entry<QxPolylineBasedCurve>(L"QxPolylineBasedCurve"),
         // AecPolyOpening.
         Entry<AecCircleOpening>(L"AecCircleOpening"),

@@ -1,0 +1,61 @@
+// The entity classes of the conformance suite. Each joins with a ConformanceCase
+// specialisation (a sample instance, the host class it files first, an edit) and one
+// entry in ConformanceTypes.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include "lines/AecDivisionLine.h"
+#include "openings/AecCircleOpening.h"
+
+template <typename T>
+struct ConformanceCase;
+
+template <>
+struct ConformanceCase<AecCircleOpening> {
+    using HostBase = AcDbCircle;
+    static AecCircleOpening* MakeSample()
+    {
+        auto* opening = new AecCircleOpening();
+        opening->setCenter(AcGePoint3d(1200, 800, 0));
+        opening->setRadius(150);
+        CircleOpeningData data = opening->GetData();
+        data.titleLabel.SetLabel(L"D300");
+        data.titleLabel.SetVisible(true);
+        data.titleLabel.SetPosition(AcGePoint3d(1200, 1000, 0));
+        data.titleLabel.SetHeight(80);
+        opening->SetData(data);
+        return opening;
+    }
+    static void Edit(AecCircleOpening* opening)
+    {
+        opening->setRadius(175);
+        CircleOpeningData data = opening->GetData();
+        data.titleLabel.SetLabel(L"D350");
+        opening->SetData(data);
+    }
+};
+
+template <>
+struct ConformanceCase<AecDivisionLine> {
+    using HostBase = AcDbCurve;
+    static AecDivisionLine* MakeSample()
+    {
+        auto* line = new AecDivisionLine();
+        line->SetBulge(0.25);  // before the points, so that the label lands on the arc
+        line->SetPoints(AcGePoint3d(1000, 500, 0), AcGePoint3d(3400, 1300, 0));
+        line->SetIndentLeft(40);
+        line->SetIndentRight(60);
+        line->SetJieDianBoundaryColorIndex(3);
+        line->SetNodeBasicJsonStr(L"{\"编号\":\"JD-7\"}");
+        return line;
+    }
+    static void Edit(AecDivisionLine* line)
+    {
+        line->SetEndPoint(AcGePoint3d(3600, 1500, 0));
+        line->SetIndentRight(75);
+        line->SetAccessoryJsonStr(L"[\"螺钉\"]");
+    }
+};
+
+using ConformanceTypes = ::testing::Types<AecCircleOpening, AecDivisionLine>;

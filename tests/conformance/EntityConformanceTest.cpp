@@ -1,0 +1,228 @@
+// What every entity of the module promises the host: a default instance is valid; filing
+// is lossless and byte-stable; a newer class version is refused; transform then inverse
+// restores the geometry; extents contain the grips; a zero grip move changes nothing; the
+// draw stops on an aborted regeneration; undo restores the state.
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include "ConformanceCases.h"
+#include "ModuleTestSupport.h"
+#include "geplane.h"
+#include "headless/MemoryDwgFiler.h"
+#include "headless/RecordingWorldDraw.h"
+#include "headless/UndoHistory.h"
+
+namespace {
+
+const bool kModuleLoaded = qxtest::RegisterModuleEnvironment();
+
+template <typename T>
+class EntityConformanceTest : public ::testing::Test {
+protected:
+    using Case = ConformanceCase<T>;
+
+    // A sample appended to the working database, opened as asked.
+    T* AddSample(AcDb::OpenMode mode, AcDbObjectId* idOut = nullptr)
+    {
+        const AcDbObjectId id = working.Add(Case::MakeSample());
+        if (idOut != nullptr)
+            *idOut = id;
+        return Open(id, mode);
+    }
+
+    T* Open(AcDbObjectId id, AcDb::OpenMode mode)
+    {
+        T* entity = nullptr;
+        EXPECT_EQ(acdbOpenObject(entity, id, mode), Acad::eOk);
+        return entity;
+    }
+
+    // New-form grips, or the points of the old form when the entity has only those.
+    std::vector<AcGePoint3d> GripPoints(const T* entity)
+    {
+        std::vector<AcGePoint3d> points;
+        AcDbGripDataPtrArray grips;
+        if (entity->getGripPoints(grips, 1.0, 5, AcGeVector3d::kZAxis, 0) == Acad::eOk) {
+            for (AcDbGripData* grip : grips) {
+                points.push_back(grip->gripPoint());
+                delete grip;
+            }
+            return points;
+        }
+        AcGePoint3dArray old;
+        AcDbIntArray modes;
+        AcDbIntArray ids;
+        EXPECT_EQ(entity->getGripPoints(old, modes, ids), Acad::eOk);
+        for (const AcGePoint3d& p : old)
+            points.push_back(p);
+        return points;
+    }
+
+    qxtest::WorkingDatabase working;
+};
+
+TYPED_TEST_SUITE(EntityConformanceTest, ConformanceTypes);
+
+TYPED_TEST(EntityConformanceTest, ADefaultEntityIsValid)
+{
+    AcDbObjectId id;
+    {
+        auto* fresh = new TypeParam();
+        id = this->working.Add(fresh);
+    }
+    TypeParam* entity = this->Open(id, AcDb::kForRead);
+    EXPECT_FALSE(qxtest::ListOutput(entity).empty());
+    qxtest::Draw(entity);
+    EXPECT_FALSE(qxtest::FileOut(entity).empty());
+    entity->close();
+}
+
+TYPED_TEST(EntityConformanceTest, FilingIsLosslessAndByteStable)
+{
+    TypeParam* entity = this->AddSample(AcDb::kForRead);
+    const qxtest::Bytes first = qxtest::FileOut(entity);
+    const auto drawn = qxtest::Draw(entity);
+
+    entity->close();
+
+    // Read into a second entity of the same drawing, so that it draws in the same context.
+    TypeParam* copy = this->Open(this->working.Add(new TypeParam()), AcDb::kForWrite);
+    ASSERT_EQ(qxtest::FileIn(copy, first), Acad::eOk);
+    EXPECT_EQ(qxtest::FileOut(copy), first);
+    EXPECT_TRUE(qxtest::SamePrimitives(qxtest::Draw(copy), drawn, 0.0));
+    copy->close();
+}
+
+TYPED_TEST(EntityConformanceTest, ANewerClassVersionIsRefused)
+{
+    TypeParam* entity = this->AddSample(AcDb::kForRead);
+    qxtest::Bytes bytes = qxtest::FileOut(entity);
+    headless::MemoryDwgFiler hostPart(AcDb::kFileFiler, this->working.db());
+    using HostBase = typename ConformanceCase<TypeParam>::HostBase;
+    ASSERT_EQ(entity->HostBase::dwgOutFields(&hostPart), Acad::eOk);
+    entity->close();
+
+    // The class version is the 32-bit integer right after the host class's fields.
+    const std::size_t at = hostPart.bytes().size();
+    ASSERT_LE(at + 4, bytes.size());
+    const Adesk::Int32 version =
+        static_cast<Adesk::Int32>(bytes[at] | (bytes[at + 1] << 8) | (bytes[at + 2] << 16) | (bytes[at + 3] << 24));
+    EXPECT_EQ(version, TypeParam::kCurrentVersion);
+    const Adesk::Int32 newer = version + 1;
+    for (int i = 0; i < 4; ++i)
+        bytes[at + static_cast<std::size_t>(i)] = static_cast<std::uint8_t>(static_cast<Adesk::UInt32>(newer) >> (8 * i));
+    std::unique_ptr<TypeParam> target(new TypeParam());
+    EXPECT_EQ(qxtest::FileIn(target.get(), bytes, this->working.db()), Acad::eMakeMeProxy);
+}
+
+TYPED_TEST(EntityConformanceTest, TransformThenInverseRestoresTheGeometry)
+{
+    struct Row {
+        const char* what;
+        AcGeMatrix3d matrix;
+    };
+    const AcGePoint3d pivot(300, -200, 0);
+    const Row rows[] = {
+        {"translation", AcGeMatrix3d::translation(AcGeVector3d(250, -75, 0))},
+        {"rotation", AcGeMatrix3d::rotation(0.7, AcGeVector3d::kZAxis, pivot)},
+        {"uniform scale", AcGeMatrix3d::scaling(2.5, pivot)},
+        {"mirror", AcGeMatrix3d::mirroring(AcGePlane(pivot, AcGeVector3d(2, -1, 0)))},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.what);
+        TypeParam* entity = this->AddSample(AcDb::kForWrite);
+        const auto before = qxtest::Draw(entity);
+        ASSERT_EQ(entity->transformBy(row.matrix), Acad::eOk);
+        ASSERT_EQ(entity->transformBy(row.matrix.inverse()), Acad::eOk);
+        EXPECT_TRUE(qxtest::SamePrimitives(qxtest::Draw(entity), before, 1e-6));
+        entity->close();
+    }
+}
+
+TYPED_TEST(EntityConformanceTest, ExtentsContainTheGripPoints)
+{
+    TypeParam* entity = this->AddSample(AcDb::kForRead);
+    AcDbExtents extents;
+    ASSERT_EQ(entity->getGeomExtents(extents), Acad::eOk);
+    const auto grips = this->GripPoints(entity);
+    EXPECT_FALSE(grips.empty());
+    for (const AcGePoint3d& p : grips)
+        EXPECT_TRUE(extents.contains(p, 1e-6)) << p << " outside " << extents;
+    entity->close();
+}
+
+TYPED_TEST(EntityConformanceTest, MovingAGripByZeroChangesNothing)
+{
+    TypeParam* entity = this->AddSample(AcDb::kForWrite);
+    const qxtest::Bytes before = qxtest::FileOut(entity);
+    AcDbGripDataPtrArray grips;
+    if (entity->getGripPoints(grips, 1.0, 5, AcGeVector3d::kZAxis, 0) == Acad::eOk) {
+        for (AcDbGripData* grip : grips) {
+            AcDbVoidPtrArray one;
+            one.append(grip->appData());
+            EXPECT_EQ(entity->moveGripPointsAt(one, AcGeVector3d::kIdentity, 0), Acad::eOk);
+        }
+        entity->gripStatus(AcDb::kGripsToBeDeleted);
+        for (AcDbGripData* grip : grips)
+            delete grip;
+    } else {
+        AcGePoint3dArray points;
+        AcDbIntArray modes;
+        AcDbIntArray ids;
+        ASSERT_EQ(entity->getGripPoints(points, modes, ids), Acad::eOk);
+        for (int i = 0; i < points.length(); ++i) {
+            AcDbIntArray one;
+            one.append(i);
+            EXPECT_EQ(entity->moveGripPointsAt(one, AcGeVector3d::kIdentity), Acad::eOk);
+        }
+    }
+    EXPECT_EQ(qxtest::FileOut(entity), before);
+    entity->close();
+}
+
+TYPED_TEST(EntityConformanceTest, TheDrawStopsOnAnAbortedRegeneration)
+{
+    TypeParam* entity = this->AddSample(AcDb::kForRead);
+    ASSERT_FALSE(qxtest::Draw(entity).empty());
+    headless::RecordingWorldDraw aborted;
+    aborted.setDatabase(entity->database());
+    aborted.abortNow();
+    aborted.drawDrawable(entity);
+    EXPECT_TRUE(aborted.primitives().empty());
+
+    headless::RecordingWorldDraw afterOne;
+    afterOne.setDatabase(entity->database());
+    afterOne.abortAfter(1);
+    afterOne.drawDrawable(entity);
+    EXPECT_LE(afterOne.primitives().size(), 1u);
+    entity->close();
+}
+
+TYPED_TEST(EntityConformanceTest, UndoRestoresTheState)
+{
+    AcDbObjectId id;
+    TypeParam* entity = this->AddSample(AcDb::kForRead, &id);
+    const qxtest::Bytes before = qxtest::FileOut(entity);
+    entity->close();
+
+    headless::UndoHistory& history = headless::UndoHistory::of(this->working.db());
+    history.beginGroup();
+    entity = this->Open(id, AcDb::kForWrite);
+    ConformanceCase<TypeParam>::Edit(entity);
+    const qxtest::Bytes edited = qxtest::FileOut(entity);
+    EXPECT_NE(edited, before);
+    entity->close();
+    history.endGroup();
+
+    ASSERT_EQ(history.undo(), Acad::eOk);
+    entity = this->Open(id, AcDb::kForRead);
+    EXPECT_EQ(qxtest::FileOut(entity), before);
+    entity->close();
+    ASSERT_EQ(history.redo(), Acad::eOk);
+    entity = this->Open(id, AcDb::kForRead);
+    EXPECT_EQ(qxtest::FileOut(entity), edited);
+    entity->close();
+}
+
+}  // namespace
