@@ -73,7 +73,7 @@ TYPED_TEST(EntConformanceTest, ADefaultEntityFilesAndLists)
     EXPECT_EQ(enttest::fileOut(&copy), bytes);
     EXPECT_FALSE(enttest::listOf(&entity).empty());
     EXPECT_NE(TypeParam::desc()->dxfName(), nullptr);
-    EXPECT_STREQ(TypeParam::desc()->appName(), L"QxHeadlessHost");
+    EXPECT_STREQ(TypeParam::desc()->appName(), L"HeadlessHost");
     std::unique_ptr<AcRxObject> made(TypeParam::desc()->create());
     EXPECT_NE(TypeParam::cast(made.get()), nullptr);
 }

@@ -71,6 +71,11 @@ public:
     Acad::ErrorStatus extend(Adesk::Boolean extendStart, const AcGePoint3d& toPoint) override;
     Acad::ErrorStatus getArea(double& area) const override;
     Acad::ErrorStatus reverseCurve() override;
+    // An AcGeCircArc3d with the arc's angles from the normal's x axis, owned by the caller.
+    Acad::ErrorStatus getAcGeCurve(AcGeCurve3d*& curve, const AcGeTol& tol = AcGeContext::gTol) const override;
+    // Takes an AcGeCircArc3d that is not a whole circle; other curves answer eInvalidInput.
+    Acad::ErrorStatus setFromAcGeCurve(const AcGeCurve3d& curve, AcGeVector3d* normal = nullptr,
+                                       const AcGeTol& tol = AcGeContext::gTol) override;
 
     Acad::ErrorStatus dwgOutFields(AcDbDwgFiler* filer) const override;
     Acad::ErrorStatus dwgInFields(AcDbDwgFiler* filer) override;

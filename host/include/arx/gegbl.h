@@ -1,5 +1,6 @@
 // The geometry library's globals: the default tolerance, the hook that picks a vector
-// orthogonal to another, and the error conditions that geometric queries report.
+// orthogonal to another, the error conditions that geometric queries report and the kinds
+// of geometric entity.
 #pragma once
 
 #include "getol.h"
@@ -25,6 +26,31 @@ enum ErrorCondition {
     kNonCoplanarGeometry,
     kDegenerateGeometry,
     kSingularPoint
+};
+
+
+// The kinds of geometric entity that AcGeEntity2d/3d::type() and isKindOf() answer with.
+// The host does not document their numbers; code compares the names only.
+enum EntityId {
+    kEntity2d,
+    kEntity3d,
+    kBoundBlock2d,
+    kBoundBlock3d,
+    kCurve2d,
+    kCurve3d,
+    kLinearEnt2d,
+    kLinearEnt3d,
+    kLine2d,
+    kLine3d,
+    kLineSeg2d,
+    kLineSeg3d,
+    kCircArc2d,
+    kCircArc3d,
+    kCompositeCrv2d,
+    kCompositeCrv3d,
+    kSurface,
+    kPlanarEnt,
+    kPlane
 };
 
 }  // namespace AcGe

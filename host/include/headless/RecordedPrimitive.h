@@ -24,7 +24,9 @@ namespace headless {
 //                numbers {radius, sweep angle}; integers {arc type}  (counter-clockwise about normal)
 //   polyline     points {vertices}; vectors {normal} when one was given; integers {base marker}
 //   polygon      points {vertices}
-//   pline        integers {from index, number of segments}
+//   pline        points {vertices}; vectors {normal}; numbers {elevation, then per vertex
+//                bulge, start width, end width}; integers {from index, number of
+//                segments, closed: 0 or 1}
 //   mesh         points {vertices, row-major}; integers {rows, columns}
 //   shell        points {vertices}; integers {the face list as given}
 //   text         points {position}; vectors {normal, direction}; numbers {height, width

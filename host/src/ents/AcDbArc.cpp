@@ -10,7 +10,7 @@
 #include "EntityListing.h"
 #include "gi/PlaneMath.h"
 
-ACRX_DXF_DEFINE_MEMBERS(AcDbArc, AcDbCurve, AcDb::kDHL_CURRENT, AcDb::kMReleaseCurrent, 0, ARC, QxHeadlessHost)
+ACRX_DXF_DEFINE_MEMBERS(AcDbArc, AcDbCurve, AcDb::kDHL_CURRENT, AcDb::kMReleaseCurrent, 0, ARC, HeadlessHost)
 
 namespace {
 

@@ -6,6 +6,7 @@
 
 #include "AcDbArc.h"
 #include "ArcGeometry.h"
+#include "gearc3d.h"
 #include "gi/PlaneMath.h"
 
 namespace {
@@ -302,6 +303,33 @@ Acad::ErrorStatus AcDbArc::reverseCurve()
         m_startAngle = flipped.angleOf(end);
         m_endAngle = flipped.angleOf(start);
     }
+    recordGraphicsModified();
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbArc::getAcGeCurve(AcGeCurve3d*& curve, const AcGeTol&) const
+{
+    assertReadEnabled();
+    const ArcGeometry geom = ArcGeometry::fromAngles(m_center, m_radius, m_normal, m_startAngle, m_endAngle);
+    curve = new AcGeCircArc3d(m_center, m_normal, hostgi::ocsXAxis(m_normal), m_radius, geom.startAngle,
+                              geom.endAngle());
+    return Acad::eOk;
+}
+
+// The arc keeps the curve's own normal: its start and end angles are measured about it.
+Acad::ErrorStatus AcDbArc::setFromAcGeCurve(const AcGeCurve3d& curve, AcGeVector3d*, const AcGeTol&)
+{
+    assertWriteEnabled();
+    double period = 0.0;
+    if (curve.type() != AcGe::kCircArc3d || curve.isPeriodic(period))
+        return Acad::eInvalidInput;
+    const auto& arc = static_cast<const AcGeCircArc3d&>(curve);
+    const ArcGeometry plane(arc.center(), arc.radius(), arc.normal(), 0.0, hostgi::kTwoPi);
+    m_center = arc.center();
+    m_normal = arc.normal();
+    m_radius = arc.radius();
+    m_startAngle = plane.angleOf(arc.startPoint());
+    m_endAngle = plane.angleOf(arc.endPoint());
     recordGraphicsModified();
     return Acad::eOk;
 }

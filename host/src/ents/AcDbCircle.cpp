@@ -10,7 +10,7 @@
 #include "EntityListing.h"
 #include "gi/PlaneMath.h"
 
-ACRX_DXF_DEFINE_MEMBERS(AcDbCircle, AcDbCurve, AcDb::kDHL_CURRENT, AcDb::kMReleaseCurrent, 0, CIRCLE, QxHeadlessHost)
+ACRX_DXF_DEFINE_MEMBERS(AcDbCircle, AcDbCurve, AcDb::kDHL_CURRENT, AcDb::kMReleaseCurrent, 0, CIRCLE, HeadlessHost)
 
 namespace {
 

@@ -7,6 +7,7 @@
 #include "AcDbArc.h"
 #include "AcDbCircle.h"
 #include "ArcGeometry.h"
+#include "gearc3d.h"
 #include "gi/PlaneMath.h"
 
 namespace {
@@ -269,6 +270,27 @@ Acad::ErrorStatus AcDbCircle::reverseCurve()
     assertWriteEnabled();
     m_normal = -m_normal;
     m_thickness = -m_thickness;
+    recordGraphicsModified();
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbCircle::getAcGeCurve(AcGeCurve3d*& curve, const AcGeTol&) const
+{
+    assertReadEnabled();
+    curve = new AcGeCircArc3d(m_center, m_normal, hostgi::ocsXAxis(m_normal), m_radius, 0.0, hostgi::kTwoPi);
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbCircle::setFromAcGeCurve(const AcGeCurve3d& curve, AcGeVector3d*, const AcGeTol&)
+{
+    assertWriteEnabled();
+    double period = 0.0;
+    if (curve.type() != AcGe::kCircArc3d || !curve.isPeriodic(period))
+        return Acad::eInvalidInput;
+    const auto& arc = static_cast<const AcGeCircArc3d&>(curve);
+    m_center = arc.center();
+    m_normal = arc.normal();
+    m_radius = arc.radius();
     recordGraphicsModified();
     return Acad::eOk;
 }

@@ -9,7 +9,7 @@
 #include "EntityListing.h"
 #include "gi/PlaneMath.h"
 
-ACRX_DXF_DEFINE_MEMBERS(AcDbLine, AcDbCurve, AcDb::kDHL_CURRENT, AcDb::kMReleaseCurrent, 0, LINE, QxHeadlessHost)
+ACRX_DXF_DEFINE_MEMBERS(AcDbLine, AcDbCurve, AcDb::kDHL_CURRENT, AcDb::kMReleaseCurrent, 0, LINE, HeadlessHost)
 
 namespace {
 

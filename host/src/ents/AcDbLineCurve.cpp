@@ -8,6 +8,8 @@
 
 #include "AcDbLine.h"
 #include "ArcGeometry.h"
+#include "EntityFiling.h"
+#include "gelnsg3d.h"
 #include "gi/PlaneMath.h"
 
 namespace {
@@ -353,6 +355,27 @@ Acad::ErrorStatus AcDbLine::reverseCurve()
 {
     assertWriteEnabled();
     std::swap(m_start, m_end);
+    recordGraphicsModified();
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbLine::getAcGeCurve(AcGeCurve3d*& curve, const AcGeTol&) const
+{
+    assertReadEnabled();
+    curve = new AcGeLineSeg3d(m_start, m_end);
+    return Acad::eOk;
+}
+
+Acad::ErrorStatus AcDbLine::setFromAcGeCurve(const AcGeCurve3d& curve, AcGeVector3d* normal, const AcGeTol&)
+{
+    assertWriteEnabled();
+    if (curve.type() != AcGe::kLineSeg3d || (normal != nullptr && !hostents::isUsableNormal(*normal)))
+        return Acad::eInvalidInput;
+    const auto& seg = static_cast<const AcGeLineSeg3d&>(curve);
+    m_start = seg.startPoint();
+    m_end = seg.endPoint();
+    if (normal != nullptr)
+        m_normal = *normal / normal->length();
     recordGraphicsModified();
     return Acad::eOk;
 }

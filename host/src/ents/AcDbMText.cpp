@@ -13,7 +13,7 @@
 #include "TextFrame.h"
 #include "gi/PlaneMath.h"
 
-ACRX_DXF_DEFINE_MEMBERS(AcDbMText, AcDbEntity, AcDb::kDHL_CURRENT, AcDb::kMReleaseCurrent, 0, MTEXT, QxHeadlessHost)
+ACRX_DXF_DEFINE_MEMBERS(AcDbMText, AcDbEntity, AcDb::kDHL_CURRENT, AcDb::kMReleaseCurrent, 0, MTEXT, HeadlessHost)
 
 namespace {
 

@@ -10,7 +10,7 @@
 #include "TextFrame.h"
 #include "dbsymtb.h"
 
-ACRX_DXF_DEFINE_MEMBERS(AcDbText, AcDbEntity, AcDb::kDHL_CURRENT, AcDb::kMReleaseCurrent, 0, TEXT, QxHeadlessHost)
+ACRX_DXF_DEFINE_MEMBERS(AcDbText, AcDbEntity, AcDb::kDHL_CURRENT, AcDb::kMReleaseCurrent, 0, TEXT, HeadlessHost)
 
 namespace {
 

@@ -1,20 +1,19 @@
-// AcGeLine2d: distances, projection and comparison of unbounded lines in the plane.
+// AcGeLine2d: construction, comparison and transformation of unbounded lines in the plane.
 #include "geline2d.h"
 
 #include <ostream>
 
-#include "gemat2d.h"
 #include "headless/HostError.h"
 
 const AcGeLine2d AcGeLine2d::kXAxis;
 const AcGeLine2d AcGeLine2d::kYAxis(AcGeVector2d(0, 1), 0);
 
-AcGeLine2d::AcGeLine2d(const AcGePoint2d& pnt, const AcGeVector2d& vec)
+AcGeLine2d::AcGeLine2d(const AcGePoint2d& pnt, const AcGeVector2d& vec) : AcGeLinearEnt2d(pnt, vec)
 {
     set(pnt, vec);
 }
 
-AcGeLine2d::AcGeLine2d(const AcGePoint2d& pnt1, const AcGePoint2d& pnt2)
+AcGeLine2d::AcGeLine2d(const AcGePoint2d& pnt1, const AcGePoint2d& pnt2) : AcGeLinearEnt2d(pnt1, pnt2 - pnt1)
 {
     set(pnt1, pnt2);
 }
@@ -37,57 +36,56 @@ AcGeLine2d& AcGeLine2d::set(const AcGePoint2d& pnt1, const AcGePoint2d& pnt2)
     return *this;
 }
 
-AcGeVector2d AcGeLine2d::direction() const
-{
-    return mVector / mVector.length();
-}
-
-double AcGeLine2d::paramOf(const AcGePoint2d& pnt, const AcGeTol&) const
-{
-    return (pnt - mPoint).dotProduct(mVector) / mVector.lengthSqrd();
-}
-
-AcGePoint2d AcGeLine2d::closestPointTo(const AcGePoint2d& pnt, const AcGeTol& tol) const
-{
-    return evalPoint(paramOf(pnt, tol));
-}
-
-double AcGeLine2d::distanceTo(const AcGePoint2d& pnt, const AcGeTol& tol) const
-{
-    return pnt.distanceTo(closestPointTo(pnt, tol));
-}
-
-Adesk::Boolean AcGeLine2d::isOn(const AcGePoint2d& pnt, const AcGeTol& tol) const
-{
-    return distanceTo(pnt, tol) <= tol.equalPoint();
-}
-
-Adesk::Boolean AcGeLine2d::isParallelTo(const AcGeLine2d& line, const AcGeTol& tol) const
-{
-    return mVector.isParallelTo(line.mVector, tol);
-}
-
-Adesk::Boolean AcGeLine2d::isColinearTo(const AcGeLine2d& line, const AcGeTol& tol) const
-{
-    return isParallelTo(line, tol) && isOn(line.mPoint, tol);
-}
-
 Adesk::Boolean AcGeLine2d::isEqualTo(const AcGeLine2d& line, const AcGeTol& tol) const
 {
     return mPoint.isEqualTo(line.mPoint, tol) && mVector.isEqualTo(line.mVector, tol);
 }
 
+Adesk::Boolean AcGeLine2d::isKindOf(AcGe::EntityId entType) const
+{
+    return entType == AcGe::kLine2d || AcGeLinearEnt2d::isKindOf(entType);
+}
+
+AcGeEntity2d* AcGeLine2d::copy() const
+{
+    return new AcGeLine2d(*this);
+}
+
+Adesk::Boolean AcGeLine2d::isEqualTo(const AcGeEntity2d& entity, const AcGeTol& tol) const
+{
+    return entity.type() == AcGe::kLine2d && isEqualTo(static_cast<const AcGeLine2d&>(entity), tol);
+}
+
 AcGeLine2d& AcGeLine2d::transformBy(const AcGeMatrix2d& xfm)
 {
-    const AcGeVector2d vec = xfm * mVector;
-    if (vec.isZeroLength())
-        headless::raiseHostError(L"AcGeLine2d::transformBy: the matrix collapses the line to a point");
-    mPoint = xfm * mPoint;
-    mVector = vec;
+    transformLinear(xfm, L"AcGeLine2d::transformBy");
     return *this;
+}
+
+void AcGeLine2d::print(std::ostream& os) const
+{
+    os << "AcGeLine2d(" << mPoint << ", " << mVector << ')';
+}
+
+void AcGeLine2d::getInterval(AcGeInterval& intrvl) const
+{
+    intrvl.set();
+}
+
+AcGeLine2d& AcGeLine2d::reverseParam()
+{
+    mVector = -mVector;
+    return *this;
+}
+
+void AcGeLine2d::getSplitCurves(double, AcGeCurve2d*& piece1, AcGeCurve2d*& piece2) const
+{
+    piece1 = nullptr;
+    piece2 = nullptr;
 }
 
 std::ostream& operator<<(std::ostream& os, const AcGeLine2d& line)
 {
-    return os << "AcGeLine2d(" << line.mPoint << ", " << line.mVector << ')';
+    line.print(os);
+    return os;
 }

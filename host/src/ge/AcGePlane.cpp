@@ -1,13 +1,9 @@
-// AcGePlane: construction from normals, points or coefficients, distances, projection
-// and parametrisation of an unbounded plane.
+// AcGePlane: construction from normals, points or coefficients, distances and
+// transformation of an unbounded plane.
 #include "geplane.h"
 
-#include <cmath>
 #include <ostream>
 
-#include "GeFormat.h"
-#include "GeMath.h"
-#include "geline3d.h"
 #include "gemat3d.h"
 #include "headless/HostError.h"
 
@@ -15,22 +11,22 @@ const AcGePlane AcGePlane::kXYPlane(AcGeVector3d(1, 0, 0), AcGeVector3d(0, 1, 0)
 const AcGePlane AcGePlane::kYZPlane(AcGeVector3d(0, 1, 0), AcGeVector3d(0, 0, 1), AcGeVector3d(1, 0, 0));
 const AcGePlane AcGePlane::kZXPlane(AcGeVector3d(0, 0, 1), AcGeVector3d(1, 0, 0), AcGeVector3d(0, 1, 0));
 
-AcGePlane::AcGePlane(const AcGePoint3d& origin, const AcGeVector3d& normal)
+AcGePlane::AcGePlane(const AcGePoint3d& origin, const AcGeVector3d& normal) : AcGePlane()
 {
     set(origin, normal);
 }
 
-AcGePlane::AcGePlane(const AcGePoint3d& pntU, const AcGePoint3d& org, const AcGePoint3d& pntV)
+AcGePlane::AcGePlane(const AcGePoint3d& pntU, const AcGePoint3d& org, const AcGePoint3d& pntV) : AcGePlane()
 {
     set(pntU, org, pntV);
 }
 
-AcGePlane::AcGePlane(const AcGePoint3d& org, const AcGeVector3d& uAxis, const AcGeVector3d& vAxis)
+AcGePlane::AcGePlane(const AcGePoint3d& org, const AcGeVector3d& uAxis, const AcGeVector3d& vAxis) : AcGePlane()
 {
     set(org, uAxis, vAxis);
 }
 
-AcGePlane::AcGePlane(double a, double b, double c, double d)
+AcGePlane::AcGePlane(double a, double b, double c, double d) : AcGePlane()
 {
     set(a, b, c, d);
 }
@@ -67,29 +63,9 @@ AcGePlane& AcGePlane::set(double a, double b, double c, double d)
     return set(AcGePoint3d::kOrigin - normal * (d / normal.lengthSqrd()), normal);
 }
 
-void AcGePlane::getCoefficients(double& a, double& b, double& c, double& d) const
-{
-    a = mNormal.x;
-    b = mNormal.y;
-    c = mNormal.z;
-    d = -mNormal.dotProduct(mOrigin.asVector());
-}
-
-void AcGePlane::getCoordSystem(AcGePoint3d& origin, AcGeVector3d& axis1, AcGeVector3d& axis2) const
-{
-    origin = mOrigin;
-    axis1 = mUAxis;
-    axis2 = mVAxis;
-}
-
 double AcGePlane::signedDistanceTo(const AcGePoint3d& pnt) const
 {
     return (pnt - mOrigin).dotProduct(mNormal);
-}
-
-double AcGePlane::distanceTo(const AcGePoint3d& pnt) const
-{
-    return std::fabs(signedDistanceTo(pnt));
 }
 
 AcGePoint3d AcGePlane::closestPointTo(const AcGePoint3d& pnt, const AcGeTol&) const
@@ -97,39 +73,23 @@ AcGePoint3d AcGePlane::closestPointTo(const AcGePoint3d& pnt, const AcGeTol&) co
     return pnt - mNormal * signedDistanceTo(pnt);
 }
 
-Adesk::Boolean AcGePlane::isOn(const AcGePoint3d& pnt, const AcGeTol& tol) const
+Adesk::Boolean AcGePlane::isKindOf(AcGe::EntityId entType) const
 {
-    return distanceTo(pnt) <= tol.equalPoint();
+    return entType == AcGe::kPlane || AcGePlanarEnt::isKindOf(entType);
 }
 
-AcGePoint3d AcGePlane::evalPoint(const AcGePoint2d& param) const
+AcGeEntity3d* AcGePlane::copy() const
 {
-    return mOrigin + mUAxis * param.x + mVAxis * param.y;
+    return new AcGePlane(*this);
 }
 
-AcGePoint2d AcGePlane::paramOf(const AcGePoint3d& pnt, const AcGeTol&) const
+Adesk::Boolean AcGePlane::isEqualTo(const AcGeEntity3d& entity, const AcGeTol& tol) const
 {
-    return hostge::coordinatesIn(mUAxis, mVAxis, pnt - mOrigin);
-}
-
-Adesk::Boolean AcGePlane::isParallelTo(const AcGePlane& otherPln, const AcGeTol& tol) const
-{
-    return mNormal.isParallelTo(otherPln.mNormal, tol);
-}
-
-Adesk::Boolean AcGePlane::isCoplanarTo(const AcGePlane& otherPln, const AcGeTol& tol) const
-{
-    return isParallelTo(otherPln, tol) && isOn(otherPln.mOrigin, tol);
-}
-
-Adesk::Boolean AcGePlane::intersectWith(const AcGeLine3d& line, AcGePoint3d& resultPnt, const AcGeTol& tol) const
-{
-    const AcGeVector3d direction = line.direction();
-    if (direction.isPerpendicularTo(mNormal, tol))
+    if (entity.type() != AcGe::kPlane)
         return false;
-    const AcGePoint3d start = line.pointOnLine();
-    resultPnt = start - direction * (signedDistanceTo(start) / direction.dotProduct(mNormal));
-    return true;
+    const auto& other = static_cast<const AcGePlane&>(entity);
+    return mOrigin.isEqualTo(other.mOrigin, tol) && mUAxis.isEqualTo(other.mUAxis, tol) &&
+           mVAxis.isEqualTo(other.mVAxis, tol);
 }
 
 AcGePlane& AcGePlane::transformBy(const AcGeMatrix3d& xfm)
@@ -138,27 +98,13 @@ AcGePlane& AcGePlane::transformBy(const AcGeMatrix3d& xfm)
     return *this;
 }
 
-void AcGePlane::setAxes(const ACHAR* failure, const AcGePoint3d& org, const AcGeVector3d& uAxis,
-                        const AcGeVector3d& vAxis)
+void AcGePlane::print(std::ostream& os) const
 {
-    // Divided by its own length rather than normalised with the tolerance: short axes that
-    // are far from parallel still have a short but good cross product.
-    const AcGeVector3d cross = uAxis.crossProduct(vAxis);
-    const double crossLength = cross.length();
-    if (uAxis.isZeroLength() || vAxis.isZeroLength() || uAxis.isParallelTo(vAxis) || crossLength == 0.0)
-        headless::raiseHostError(L"%s", failure);
-    mOrigin = org;
-    mUAxis = uAxis;
-    mVAxis = vAxis;
-    mNormal = cross / crossLength;
+    os << "AcGePlane(origin " << mOrigin << ", u " << mUAxis << ", v " << mVAxis << ", normal " << mNormal << ')';
 }
 
 std::ostream& operator<<(std::ostream& os, const AcGePlane& pln)
 {
-    AcGePoint3d origin;
-    AcGeVector3d u;
-    AcGeVector3d v;
-    pln.getCoordSystem(origin, u, v);
-    os << "AcGePlane(origin " << origin << ", u " << u << ", v " << v << ", normal " << pln.normal() << ')';
+    pln.print(os);
     return os;
 }

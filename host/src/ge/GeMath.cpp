@@ -14,6 +14,15 @@ double angleInFullTurn(double angle)
     return folded >= kTwoPi ? 0.0 : folded;
 }
 
+double sweepBetween(double startAngle, double endAngle)
+{
+    const double sweep = endAngle - startAngle;
+    if (sweep > 0.0 && sweep <= kTwoPi)
+        return sweep;
+    const double folded = angleInFullTurn(sweep);
+    return folded == 0.0 ? kTwoPi : folded;
+}
+
 AcGePoint2d coordinatesIn(const AcGeVector3d& u, const AcGeVector3d& v, const AcGeVector3d& w)
 {
     // Solve the 2x2 Gram system [u.u u.v; u.v v.v] (s, t) = (w.u, w.v).

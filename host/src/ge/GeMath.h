@@ -12,6 +12,17 @@ constexpr double kTwoPi = 6.283185307179586476925286766559;
 // An angle folded into [0, 2pi).
 double angleInFullTurn(double angle);
 
+// endAngle - startAngle brought into (0, 2pi]: equal angles make a whole turn.
+double sweepBetween(double startAngle, double endAngle);
+
+// Below this sine of the angle between them two directions count as parallel (three
+// points as collinear); far above rounding, far below any drawn angle.
+constexpr double kParallelSine = 1e-12;
+
+// Maps that change lengths by directions differing more than this (relatively) do not
+// keep circles circular.
+constexpr double kSimilarityTolerance = 1e-9;
+
 // The coordinates (s, t) with s u + t v the projection of w onto the span of u and v
 // (u and v need be neither unit nor perpendicular, only independent).
 AcGePoint2d coordinatesIn(const AcGeVector3d& u, const AcGeVector3d& v, const AcGeVector3d& w);

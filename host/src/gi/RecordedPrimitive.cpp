@@ -186,6 +186,22 @@ std::string RecordedPrimitive::toLine() const
         break;
     case PrimitiveKind::kPline:
         os << " from=" << integerAt(integers, 0, 0) << " segments=" << integerAt(integers, 1, 0);
+        if (integerAt(integers, 2, 0) != 0)
+            os << " closed";
+        os << " n=" << points.size();
+        putPoints(os, points);
+        if (!vectors.empty()) {
+            os << " normal=";
+            putVector(os, vectors[0]);
+        }
+        os << " elevation=" << formatRecordedNumber(numberAt(numbers, 0));
+        // Each vertex as bulge/start width/end width.
+        os << " vertices=[";
+        for (size_t i = 1; i + 2 < numbers.size(); i += 3) {
+            os << (i == 1 ? "" : " ") << formatRecordedNumber(numbers[i]) << '/' << formatRecordedNumber(numbers[i + 1])
+               << '/' << formatRecordedNumber(numbers[i + 2]);
+        }
+        os << ']';
         break;
     case PrimitiveKind::kMesh:
         os << " rows=" << integerAt(integers, 0, 0) << " columns=" << integerAt(integers, 1, 0);

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cwchar>
 
+#include "AcDbPolyline.h"
 #include "AcGiDrawable.h"
 #include "AcGiDrawableTraits.h"
 #include "PlaneMath.h"
@@ -171,11 +172,31 @@ Adesk::Boolean RecordingGeometry::polygon(const Adesk::UInt32 nbPoints, const Ac
     return recordPoints(PrimitiveKind::kPolygon, nbPoints, vertexList, "polygon");
 }
 
-Adesk::Boolean RecordingGeometry::pline(const AcDbPolyline&, Adesk::UInt32 fromIndex, Adesk::UInt32 numSegs) const
+Adesk::Boolean RecordingGeometry::pline(const AcDbPolyline& lwBuf, Adesk::UInt32 fromIndex, Adesk::UInt32 numSegs) const
 {
+    const AcGeMatrix3d xform = m_state.modelToWorld();
+    const AcGeVector3d normal = lwBuf.normal();
+    // Widths scale as a circle's radius does; the normal is carried as an arc's, so that
+    // the bulges keep their sense about it.
+    const double scale = transformed(xform, ocsXAxis(normal)).length();
     RecordedPrimitive prim;
     prim.kind = PrimitiveKind::kPline;
-    prim.integers = {static_cast<Adesk::Int64>(fromIndex), static_cast<Adesk::Int64>(numSegs)};
+    prim.vectors = {transformNormal(xform, normal)};
+    prim.numbers = {0.0};
+    for (unsigned i = 0; i < lwBuf.numVerts(); ++i) {
+        AcGePoint3d point;
+        double bulge = 0.0;
+        double startWidth = 0.0;
+        double endWidth = 0.0;
+        lwBuf.getPointAt(i, point);
+        lwBuf.getBulgeAt(i, bulge);
+        lwBuf.getWidthsAt(i, startWidth, endWidth);
+        prim.points.push_back(transformed(xform, point));
+        prim.numbers.insert(prim.numbers.end(), {bulge, startWidth * scale, endWidth * scale});
+    }
+    prim.numbers[0] = prim.points.empty() ? lwBuf.elevation() : prim.points[0].asVector().dotProduct(prim.vectors[0]);
+    prim.integers = {static_cast<Adesk::Int64>(fromIndex), static_cast<Adesk::Int64>(numSegs),
+                     lwBuf.isClosed() ? 1 : 0};
     return !m_state.record(std::move(prim));
 }
 

@@ -33,8 +33,7 @@ public:
                             Adesk::LongPtr baseSubEntMarker = -1) const override;
     Adesk::Boolean polyline(const AcGiPolyline& polylineObj) const override;
     Adesk::Boolean polygon(const Adesk::UInt32 nbPoints, const AcGePoint3d* vertexList) const override;
-    // The lightweight polyline class comes with a later part of the host; until then the
-    // call is recorded by its segment range only.
+    // The polyline's vertices, bulges, widths, closed flag, normal and elevation.
     Adesk::Boolean pline(const AcDbPolyline& lwBuf, Adesk::UInt32 fromIndex = 0,
                          Adesk::UInt32 numSegs = 0) const override;
     // Edge, face and vertex decorations are not recorded.

@@ -1,0 +1,4 @@
+// The host's hatch.
+#pragma once
+
+#include "AcDbHatch.h"

@@ -1,0 +1,4 @@
+// The host's lightweight polyline.
+#pragma once
+
+#include "AcDbPolyline.h"
