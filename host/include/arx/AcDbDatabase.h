@@ -15,6 +15,7 @@ class AcDbLinetypeTable;
 class AcDbTextStyleTable;
 class AcDbDimStyleTable;
 class AcDbImpDatabase;
+class AcDbIdMapping;
 
 class ACHOST_API AcDbDatabase : public AcRxObject {
     ACRX_DECLARE_MEMBERS(AcDbDatabase);
@@ -38,6 +39,25 @@ public:
     // stub that an object filed in later fills. eNullHandle, eUnknownHandle.
     Acad::ErrorStatus getAcDbObjectId(AcDbObjectId& retId, bool createIfNotFound, const AcDbHandle& objHandle,
                                       Adesk::UInt32 xRefId = 0);
+    // Clones the objects (all of this database) into owner, a block or another object of
+    // this database, filling idMap; objects they own come along. References between the
+    // clones name the clones afterwards; others stay as they were. Objects of several
+    // owners take one call each with deferXlation true on all but the last: the
+    // references are translated, and endDeepClone sent, once at the last call.
+    // eWrongDatabase, eNullObjectId, eInvalidOwnerObject, eInvalidIdMap (the mapping
+    // served a finished operation), or the first clone's failure (the operation is then
+    // aborted: abortDeepClone is sent and the clones made so far are erased).
+    Acad::ErrorStatus deepCloneObjects(const AcDbObjectIdArray& objectIds, const AcDbObjectId& owner,
+                                       AcDbIdMapping& idMap, bool deferXlation = false);
+    // As deepCloneObjects, into owner in another database (or this one). Hard pointers
+    // are followed too; symbol table records are matched by name in the destination
+    // (drc: kDrcReplace overwrites the destination's record with the source's fields;
+    // the mangling choices are not supported and behave as kDrcIgnore), and references
+    // to objects that were not cloned become null.
+    Acad::ErrorStatus wblockCloneObjects(const AcDbObjectIdArray& objectIds, const AcDbObjectId& owner,
+                                         AcDbIdMapping& idMap, AcDb::DuplicateRecordCloning drc,
+                                         bool deferXlation = false);
+
     // The next handle to be given out.
     AcDbHandle handseed() const;
     Adesk::Int32 approxNumObjects() const;

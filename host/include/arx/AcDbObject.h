@@ -60,8 +60,8 @@ public:
 
     // Filing: dwgOut/dwgIn check the filer and call the class's ...Fields; the drawing
     // record around an object carries its handle and class. AcDbObject's own fields are
-    // the owner (a soft pointer) on every filer except the copy, deep clone and wblock
-    // clone filers, whose copies get their owner from the copying.
+    // the owner (a soft pointer) on every filer except the copy, deep clone, wblock
+    // clone and id translation filers, whose copies get their owner from the copying.
     Acad::ErrorStatus dwgOut(AcDbDwgFiler* filer) const;
     Acad::ErrorStatus dwgIn(AcDbDwgFiler* filer);
     virtual Acad::ErrorStatus dwgOutFields(AcDbDwgFiler* filer) const;
@@ -75,10 +75,13 @@ public:
     AcDbDwgFiler* undoFiler();
 
     // Cloning. Application code should not call these directly; the database's
-    // deepCloneObjects / wblockCloneObjects do. The base sub... functions copy the object
-    // through a clone filer into the owner's database (appended when the owner is a block
-    // and the copy a primary entity) and leave the copy open for write; they neither
-    // record pairs in the id map nor follow owned objects.
+    // deepCloneObjects / wblockCloneObjects do. The base sub... functions make a new object
+    // of the class (isA()->create()), copy the fields through a clone filer, place it under
+    // the owner (a primary entity going into a block is appended to it; a record going
+    // into a symbol table is added to it; anything else is added to the owner's database
+    // and owned by the owner), record the pair in idMap, clone the objects this one owns
+    // (wblock: and those it hard-points to) with isPrimary false, and leave the clone open
+    // for write for the caller to close. References are translated later, by the operation.
     Acad::ErrorStatus deepClone(AcDbObject* owner, AcDbObject*& clone, AcDbIdMapping& idMap,
                                 Adesk::Boolean isPrimary = true) const;
     Acad::ErrorStatus wblockClone(AcRxObject* owner, AcDbObject*& clone, AcDbIdMapping& idMap,

@@ -5,6 +5,7 @@
 #include "AcDbImpDatabase.h"
 #include "AcDbStub.h"
 #include "UndoRecorder.h"
+#include "WriteGate.h"
 #include "headless/MemoryDwgFiler.h"
 
 namespace {
@@ -93,6 +94,8 @@ Acad::ErrorStatus AcDbImpObject::open(AcDb::OpenMode mode)
             return Acad::eWasOpenForRead;
         if (m_notifiers > 0)
             return Acad::eWasOpenForNotify;
+        if (const Acad::ErrorStatus gate = hostdb::passWriteGate(database()); gate != Acad::eOk)
+            return gate;
         break;
     case AcDb::kForNotify:
         if (m_notifiers > 0)
@@ -159,6 +162,8 @@ Acad::ErrorStatus AcDbImpObject::upgradeOpen()
         return Acad::eHadMultipleReaders;
     if (m_notifiers > 0)
         return Acad::eWasOpenForNotify;
+    if (const Acad::ErrorStatus gate = hostdb::passWriteGate(database()); gate != Acad::eOk)
+        return gate;
     for (AcDb::OpenMode& mode : m_opens) {
         if (mode == AcDb::kForRead)
             mode = AcDb::kForWrite;

@@ -59,6 +59,8 @@ public:
     bool m_cancelling = false;
     bool m_reallyClosing = false;
     bool m_idsInFlux = false;
+    // Proxies (objects kept for a class that is not loaded) set this when they are made.
+    bool m_isProxy = false;
     // The serial of the undo group that last recorded this object's state.
     std::uint64_t m_undoGroupRecorded = 0;
 

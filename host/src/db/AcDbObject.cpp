@@ -148,7 +148,7 @@ bool AcDbObject::isNewObject() const { return m_imp->m_isNew; }
 bool AcDbObject::isUndoing() const { return m_imp->m_undoing; }
 bool AcDbObject::isCancelling() const { return m_imp->m_cancelling; }
 bool AcDbObject::isReallyClosing() const { return m_imp->m_reallyClosing; }
-bool AcDbObject::isAProxy() const { return false; }
+bool AcDbObject::isAProxy() const { return m_imp->m_isProxy; }
 
 bool AcDbObject::isErased() const
 {

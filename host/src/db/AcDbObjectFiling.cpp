@@ -1,9 +1,7 @@
 // AcDbObject's filing and copying: the framework part of dwgOut/dwgIn, the fields the base
-// class owns, copies through a copy filer, the minimal deep and wblock clone, and the
-// partial undo hooks.
-#include "AcDbBlockTableRecord.h"
+// class owns, copies through a copy filer, and the partial undo hooks. Deep and wblock
+// clone are in AcDbObjectCloning.cpp.
 #include "AcDbDatabase.h"
-#include "AcDbEntity.h"
 #include "AcDbImpDatabase.h"
 #include "AcDbImpObject.h"
 #include "AcDbObject.h"
@@ -13,14 +11,16 @@
 
 namespace {
 
-// Copies start from a fresh owner, so the filers that copy do not carry the owner;
-// every other filer (files, undo, paging, reference collection) does.
+// Copies start from a fresh owner, so the filers that copy do not carry the owner; nor
+// does reference translation, which places owners itself. Every other filer (files,
+// undo, paging, reference collection) does.
 bool filesOwner(const AcDbDwgFiler* filer)
 {
     switch (filer->filerType()) {
     case AcDb::kCopyFiler:
     case AcDb::kDeepCloneFiler:
     case AcDb::kWblockCloneFiler:
+    case AcDb::kIdXlateFiler:
         return false;
     default:
         return true;
@@ -49,42 +49,6 @@ Acad::ErrorStatus copyThroughFiler(const AcDbObject* source, AcDb::FilerType typ
         return es;
     }
     copy = object;
-    return Acad::eOk;
-}
-
-// Puts a fresh copy into the owner's database: primary entities into a block table
-// record owner are appended to it, everything else is added and owned by the owner.
-Acad::ErrorStatus placeClone(AcDbObject* copy, AcDbObject* owner, AcDbDatabase* database, bool isPrimary)
-{
-    if (database == nullptr)
-        return Acad::eNoDatabase;
-    AcDbBlockTableRecord* block = AcDbBlockTableRecord::cast(owner);
-    AcDbEntity* entity = AcDbEntity::cast(copy);
-    if (isPrimary && block != nullptr && entity != nullptr)
-        return block->appendAcDbEntity(entity);
-    AcDbObjectId id;
-    const Acad::ErrorStatus es = database->addAcDbObject(id, copy);
-    if (es == Acad::eOk && owner != nullptr)
-        AcDbImpObject::of(copy)->setOwner(owner->objectId());
-    return es;
-}
-
-Acad::ErrorStatus cloneInto(const AcDbObject* source, AcDbObject* owner, AcDbDatabase* database,
-                            AcDb::FilerType type, bool isPrimary, AcDbObject*& clone)
-{
-    clone = nullptr;
-    AcDbObject* copy = nullptr;
-    Acad::ErrorStatus es = copyThroughFiler(source, type, copy);
-    if (es != Acad::eOk)
-        return es;
-    if (owner != nullptr || database != nullptr) {
-        es = placeClone(copy, owner, database, isPrimary);
-        if (es != Acad::eOk) {
-            delete copy;
-            return es;
-        }
-    }
-    clone = copy;
     return Acad::eOk;
 }
 
@@ -150,42 +114,6 @@ Acad::ErrorStatus AcDbObject::copyFrom(const AcRxObject* other)
     if (es == Acad::eOk)
         es = filer.seek(0, AcDb::kSeekFromStart);
     return es == Acad::eOk ? dwgIn(&filer) : es;
-}
-
-Acad::ErrorStatus AcDbObject::deepClone(AcDbObject* owner, AcDbObject*& clone, AcDbIdMapping& idMap,
-                                        Adesk::Boolean isPrimary) const
-{
-    return subDeepClone(owner, clone, idMap, isPrimary);
-}
-
-Acad::ErrorStatus AcDbObject::wblockClone(AcRxObject* owner, AcDbObject*& clone, AcDbIdMapping& idMap,
-                                          Adesk::Boolean isPrimary) const
-{
-    return subWblockClone(owner, clone, idMap, isPrimary);
-}
-
-// The copy goes into the owner's database (appended when the owner is a block and the
-// copy a primary entity). The id map is not touched here: translating references and
-// cloning owned objects belong to the database's clone operations.
-Acad::ErrorStatus AcDbObject::subDeepClone(AcDbObject* owner, AcDbObject*& clone, AcDbIdMapping& /*idMap*/,
-                                           Adesk::Boolean isPrimary) const
-{
-    clone = nullptr;
-    if (owner == nullptr)
-        return Acad::eInvalidOwnerObject;
-    return cloneInto(this, owner, owner->database(), AcDb::kDeepCloneFiler, isPrimary, clone);
-}
-
-// As subDeepClone; the owner may also be the destination database itself.
-Acad::ErrorStatus AcDbObject::subWblockClone(AcRxObject* owner, AcDbObject*& clone, AcDbIdMapping& /*idMap*/,
-                                             Adesk::Boolean isPrimary) const
-{
-    clone = nullptr;
-    if (AcDbObject* ownerObject = AcDbObject::cast(owner))
-        return cloneInto(this, ownerObject, ownerObject->database(), AcDb::kWblockCloneFiler, isPrimary, clone);
-    if (AcDbDatabase* database = AcDbDatabase::cast(owner))
-        return cloneInto(this, nullptr, database, AcDb::kWblockCloneFiler, isPrimary, clone);
-    return Acad::eInvalidOwnerObject;
 }
 
 // The base class records no partial undo of its own.

@@ -4,7 +4,9 @@
 #include "AcDbDatabase.h"
 #include "AcDbDwgFiler.h"
 #include "AcDbObject.h"
+#include "dbidmap.h"
 #include "dbsymtb.h"
+#include "rxevent.h"
 
 namespace hostdb {
 
@@ -25,6 +27,11 @@ void registerDbClasses()
     AcDbLinetypeTableRecord::rxInit();
     AcDbTextStyleTableRecord::rxInit();
     AcDbDimStyleTableRecord::rxInit();
+    AcDbIdMapping::rxInit();
+    AcDbIdMappingIter::rxInit();
+    AcRxEventReactor::rxInit();
+    AcRxEvent::rxInit();
+    acrxSysRegistry()->atPut(ACRX_EVENT_OBJ, new AcRxEvent());
 }
 
 }  // namespace hostdb

@@ -13,7 +13,10 @@ void registerHostClasses()
     hostdb::registerDbClasses();
     hostents::registerEntityClasses();
     hostpoly::registerPolylineClasses();
+    hostap::registerApClasses();
+    hostfile::registerFileClasses();
     acrxBuildClassHierarchy();
+    hostfile::noteHostClasses();
 }
 
 }  // namespace hostrx

@@ -22,3 +22,11 @@ void registerEntityClasses();
 namespace hostpoly {
 void registerPolylineClasses();
 }
+namespace hostap {
+void registerApClasses();
+}
+namespace hostfile {
+void registerFileClasses();
+// Called last: every class registered by then is the host's own.
+void noteHostClasses();
+}

@@ -1,0 +1,24 @@
+// Feeds arbitrary bytes to the drawing-file reader. Whatever the bytes, reading must
+// neither crash nor read out of bounds nor allocate beyond the input, and a drawing that
+// was read must save and plot (proxies draw whatever graphics the file claimed).
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+#include "headless/CommandLine.h"
+#include "headless/DrawingFile.h"
+#include "headless/SvgPlot.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    headless::CommandLineCapture quiet;
+    const std::vector<std::uint8_t> bytes(data, data + size);
+    AcDbDatabase* read = nullptr;
+    if (headless::DrawingFile::read(bytes, read) != Acad::eOk)
+        return 0;
+    std::unique_ptr<AcDbDatabase> db(read);
+    std::vector<std::uint8_t> again;
+    headless::DrawingFile::write(db.get(), again);
+    headless::SvgPlot::render(db.get());
+    return 0;
+}

@@ -1,0 +1,229 @@
+// DrawingFileWriter: header, database record, class table, object records, end record.
+#include "DrawingFileWriter.h"
+
+#include <cstring>
+#include <iterator>
+
+#include "AcDbEntity.h"
+#include "DrawingFiler.h"
+#include "DrawingFormat.h"
+#include "GraphicsCodec.h"
+#include "HostClassSet.h"
+#include "acutads.h"
+#include "db/AcDbStub.h"
+#include "headless/DatabaseAccess.h"
+#include "headless/RecordingWorldDraw.h"
+
+namespace hostfile {
+
+namespace {
+
+void putLittle(std::vector<std::uint8_t>& out, std::uint64_t value, int bytes)
+{
+    for (int i = 0; i < bytes; ++i)
+        out.push_back(static_cast<std::uint8_t>(value >> (8 * i)));
+}
+
+std::uint64_t handleOf(const AcDbObjectId& id)
+{
+    return id.isNull() ? 0 : id.handle().value();
+}
+
+// The object to file, opened for read; an object open for write is filed as it is now.
+class ReadAccess {
+public:
+    explicit ReadAccess(const AcDbObjectId& id)
+    {
+        m_status = acdbOpenObject(m_object, id, AcDb::kForRead);
+        if (m_status == Acad::eOk) {
+            m_opened = true;
+            return;
+        }
+        AcDbObject* held = AcDbStub::objectOf(id);
+        m_object = held != nullptr && held->isReadEnabled() ? held : nullptr;
+    }
+    ~ReadAccess()
+    {
+        if (m_opened)
+            m_object->close();
+    }
+    ReadAccess(const ReadAccess&) = delete;
+    ReadAccess& operator=(const ReadAccess&) = delete;
+    const AcDbObject* object() const { return m_object; }
+    Acad::ErrorStatus status() const { return m_status; }
+
+private:
+    AcDbObject* m_object = nullptr;
+    Acad::ErrorStatus m_status = Acad::eOk;
+    bool m_opened = false;
+};
+
+}  // namespace
+
+Adesk::UInt32 DrawingFileWriter::classIndexOf(const ClassRecord& cls)
+{
+    const std::wstring name = cls.name.kwszPtr();
+    const auto it = m_classIndex.find(name);
+    if (it != m_classIndex.end())
+        return it->second;
+    const auto index = static_cast<Adesk::UInt32>(m_classes.size());
+    m_classes.push_back(cls);
+    m_classIndex.emplace(name, index);
+    return index;
+}
+
+// Custom entities keep the graphics they draw now, as the drawing's record of them for
+// hosts without their class; proxies keep what they were read with.
+Acad::ErrorStatus DrawingFileWriter::fileObject(const AcDbObject* obj, ObjectOut& out)
+{
+    const ProxyData* proxy = ProxyAccess::dataOf(obj);
+    out.handle = obj->handle().value();
+    out.owner = handleOf(obj->ownerId());
+    out.classIndex = classIndexOf(proxy != nullptr ? proxy->cls : ClassRecord::of(obj->isA()));
+
+    DrawingFiler filer(m_db);
+    const Acad::ErrorStatus es = obj->dwgOut(&filer);
+    if (es != Acad::eOk)
+        return es;
+    out.data = filer.bytes();
+    out.references = filer.references();
+
+    const AcDbEntity* entity = AcDbEntity::cast(obj);
+    std::vector<headless::RecordedPrimitive> drawn;
+    const std::vector<headless::RecordedPrimitive>* graphics = nullptr;
+    if (proxy != nullptr && proxy->hasGraphics) {
+        graphics = &proxy->graphics;
+    } else if (proxy == nullptr && entity != nullptr && !HostClassSet::isHostClass(obj->isA())) {
+        headless::RecordingWorldDraw draw;
+        draw.setRegenType(kAcGiSaveWorldDrawForProxy);
+        draw.setDatabase(m_db);
+        draw.drawDrawable(const_cast<AcDbEntity*>(entity));
+        drawn = draw.primitives();
+        graphics = &drawn;
+    }
+    if (graphics != nullptr) {
+        headless::MemoryDwgFiler graphicsFiler(AcDb::kFileFiler, m_db);
+        GraphicsCodec::write(&graphicsFiler, *graphics);
+        if (graphicsFiler.filerStatus() != Acad::eOk)
+            return graphicsFiler.filerStatus();
+        out.hasGraphics = true;
+        out.graphics = graphicsFiler.bytes();
+    }
+    if (proxy != nullptr && proxy->hasTransform) {
+        out.hasTransform = true;
+        out.transform = proxy->transform;
+    }
+    return Acad::eOk;
+}
+
+void DrawingFileWriter::frame(std::uint8_t kind, const std::vector<std::uint8_t>& payload)
+{
+    putLittle(m_out, kRecordMarker, 4);
+    const std::size_t checked = m_out.size();
+    m_out.push_back(kind);
+    putLittle(m_out, payload.size(), 4);
+    m_out.insert(m_out.end(), payload.begin(), payload.end());
+    const std::uint32_t crc = checksum(m_out.data() + checked, m_out.size() - checked);
+    putLittle(m_out, crc, 4);
+    ++m_frames;
+}
+
+std::vector<std::uint8_t> DrawingFileWriter::databasePayload() const
+{
+    headless::MemoryDwgFiler filer(AcDb::kFileFiler, nullptr);
+    filer.writeUInt64(handleOf(m_db->clayer()));
+    filer.writeUInt64(handleOf(m_db->celtype()));
+    filer.writeUInt64(handleOf(m_db->textstyle()));
+    filer.writeUInt64(handleOf(m_db->dimstyle()));
+    const AcCmColor color = m_db->cecolor();
+    filer.writeUInt32(color.getRGBM());
+    filer.writeString(color.colorName());
+    filer.writeString(color.bookName());
+    filer.writeDouble(m_db->celtscale());
+    filer.writeDouble(m_db->ltscale());
+    filer.writeInt16(static_cast<Adesk::Int16>(m_db->celweight()));
+    return filer.bytes();
+}
+
+std::vector<std::uint8_t> DrawingFileWriter::objectPayload(const ObjectOut& object)
+{
+    headless::MemoryDwgFiler filer(AcDb::kFileFiler, nullptr);
+    filer.writeUInt64(object.handle);
+    filer.writeUInt32(object.classIndex);
+    filer.writeUInt64(object.owner);
+    filer.writeUInt32((object.hasGraphics ? kHasGraphics : 0) | (object.hasTransform ? kHasTransform : 0));
+    filer.writeUInt32(static_cast<Adesk::UInt32>(object.data.size()));
+    filer.writeBytes(object.data.data(), object.data.size());
+    filer.writeUInt32(static_cast<Adesk::UInt32>(object.references.size()));
+    for (const ProxyReference& reference : object.references) {
+        filer.writeUInt32(reference.offset);
+        filer.writeUInt8(static_cast<Adesk::UInt8>(reference.kind));
+    }
+    if (object.hasGraphics) {
+        filer.writeUInt32(static_cast<Adesk::UInt32>(object.graphics.size()));
+        filer.writeBytes(object.graphics.data(), object.graphics.size());
+    }
+    if (object.hasTransform) {
+        for (int row = 0; row < 4; ++row)
+            for (int column = 0; column < 4; ++column)
+                filer.writeDouble(object.transform(row, column));
+    }
+    return filer.bytes();
+}
+
+Acad::ErrorStatus DrawingFileWriter::write(std::vector<std::uint8_t>& out)
+{
+    std::vector<ObjectOut> objects;
+    for (const AcDbObjectId& id : headless::DatabaseAccess::objectIds(m_db)) {
+        if (!id.isResident() || id.isErased())
+            continue;  // erased objects are not filed; references to them keep their handles
+        ReadAccess access(id);
+        const AcDbObject* obj = access.object();
+        if (obj == nullptr) {
+            ACHAR handle[17];
+            id.handle().getIntoAsciiBuffer(handle);
+            acutPrintf(L"\nThe drawing cannot be saved: object %s cannot be opened for read (%s).", handle,
+                       acadErrorStatusText(access.status()));
+            return access.status();
+        }
+        const ProxyData* proxy = ProxyAccess::dataOf(obj);
+        if (proxy != nullptr && proxy->cls.name.isEmpty())
+            continue;  // a proxy that no drawing made has nothing to keep
+        ObjectOut object;
+        const Acad::ErrorStatus es = fileObject(obj, object);
+        if (es != Acad::eOk) {
+            ACHAR handle[17];
+            obj->handle().getIntoAsciiBuffer(handle);
+            acutPrintf(L"\nThe drawing cannot be saved: object %s (%s) could not be filed: %s.", handle,
+                       obj->isA() != nullptr ? obj->isA()->name() : L"?", acadErrorStatusText(es));
+            return es;
+        }
+        objects.push_back(std::move(object));
+    }
+
+    m_out.assign(std::begin(kMagic), std::end(kMagic));
+    putLittle(m_out, kFormatMajor, 2);
+    putLittle(m_out, kFormatMinor, 2);
+    const auto frameCount = static_cast<std::uint32_t>(1 + m_classes.size() + objects.size() + 1);
+    putLittle(m_out, frameCount, 4);
+    putLittle(m_out, m_db->handseed().value(), 8);
+    putLittle(m_out, 0, 4);  // flags, none defined
+    putLittle(m_out, checksum(m_out.data(), m_out.size()), 4);
+
+    frame(kDatabaseRecord, databasePayload());
+    for (std::size_t i = 0; i < m_classes.size(); ++i) {
+        headless::MemoryDwgFiler filer(AcDb::kFileFiler, nullptr);
+        filer.writeUInt32(static_cast<Adesk::UInt32>(i));
+        m_classes[i].writeTo(&filer);
+        frame(kClassRecord, filer.bytes());
+    }
+    for (const ObjectOut& object : objects)
+        frame(kObjectRecord, objectPayload(object));
+    std::vector<std::uint8_t> end;
+    putLittle(end, m_frames, 4);
+    frame(kEndRecord, end);
+    out.swap(m_out);
+    return Acad::eOk;
+}
+
+}  // namespace hostfile

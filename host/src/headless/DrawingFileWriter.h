@@ -1,0 +1,48 @@
+// DrawingFileWriter: a database as the bytes of a drawing file. Objects are written in
+// handle order, classes in the order objects first use them, so that a drawing that is
+// read and written again gives the same bytes.
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "AcDbDatabase.h"
+#include "ProxyData.h"
+
+namespace hostfile {
+
+class DrawingFileWriter {
+public:
+    explicit DrawingFileWriter(AcDbDatabase* db) : m_db(db) {}
+
+    Acad::ErrorStatus write(std::vector<std::uint8_t>& out);
+
+private:
+    struct ObjectOut {
+        Adesk::UInt64 handle = 0;
+        Adesk::UInt32 classIndex = 0;
+        Adesk::UInt64 owner = 0;
+        std::vector<std::uint8_t> data;
+        std::vector<ProxyReference> references;
+        bool hasGraphics = false;
+        std::vector<std::uint8_t> graphics;
+        bool hasTransform = false;
+        AcGeMatrix3d transform;
+    };
+
+    Acad::ErrorStatus fileObject(const AcDbObject* obj, ObjectOut& out);
+    Adesk::UInt32 classIndexOf(const ClassRecord& cls);
+    void frame(std::uint8_t kind, const std::vector<std::uint8_t>& payload);
+    std::vector<std::uint8_t> databasePayload() const;
+    static std::vector<std::uint8_t> objectPayload(const ObjectOut& object);
+
+    AcDbDatabase* m_db;
+    std::vector<ClassRecord> m_classes;
+    std::map<std::wstring, Adesk::UInt32> m_classIndex;
+    std::vector<std::uint8_t> m_out;
+    std::uint32_t m_frames = 0;
+};
+
+}  // namespace hostfile

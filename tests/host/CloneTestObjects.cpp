@@ -1,0 +1,156 @@
+// The clone and drawing-file suites' classes.
+#include "CloneTestObjects.h"
+
+#include "AcGiWorldDraw.h"
+#include "AcGiWorldGeometry.h"
+
+ACRX_DXF_DEFINE_MEMBERS(CloneTestNote, AcDbObject, AcDb::kDHL_CURRENT, AcDb::kMReleaseCurrent, 0x80,
+                        CLONE_TEST_NOTE, CloneTests)
+ACRX_DXF_DEFINE_MEMBERS(CloneTestLink, AcDbEntity, AcDb::kDHL_CURRENT, AcDb::kMReleaseCurrent, 0x37F,
+                        CLONE_TEST_LINK, CloneTests)
+
+namespace {
+constexpr Adesk::Int16 kVersion = 1;
+}
+
+void registerCloneTestClasses()
+{
+    if (acrxFindAcRxClass(L"CloneTestLink") != nullptr)
+        return;
+    CloneTestNote::rxInit();
+    CloneTestLink::rxInit();
+    acrxBuildClassHierarchy();
+}
+
+int CloneTestNote::number() const
+{
+    assertReadEnabled();
+    return m_number;
+}
+
+void CloneTestNote::setNumber(int number)
+{
+    assertWriteEnabled();
+    m_number = number;
+}
+
+Acad::ErrorStatus CloneTestNote::dwgOutFields(AcDbDwgFiler* filer) const
+{
+    assertReadEnabled();
+    const Acad::ErrorStatus es = AcDbObject::dwgOutFields(filer);
+    if (es != Acad::eOk)
+        return es;
+    filer->writeInt16(kVersion);
+    filer->writeInt32(m_number);
+    return filer->filerStatus();
+}
+
+Acad::ErrorStatus CloneTestNote::dwgInFields(AcDbDwgFiler* filer)
+{
+    assertWriteEnabled();
+    const Acad::ErrorStatus es = AcDbObject::dwgInFields(filer);
+    if (es != Acad::eOk)
+        return es;
+    Adesk::Int16 version = 0;
+    filer->readInt16(&version);
+    if (version > kVersion)
+        return Acad::eMakeMeProxy;
+    filer->readInt32(&m_number);
+    return filer->filerStatus();
+}
+
+int CloneTestLink::failingTag = -1;
+
+int CloneTestLink::tag() const
+{
+    assertReadEnabled();
+    return m_tag;
+}
+
+void CloneTestLink::setTag(int tag)
+{
+    assertWriteEnabled();
+    m_tag = tag;
+}
+
+AcDbObjectId CloneTestLink::softRef() const
+{
+    assertReadEnabled();
+    return m_soft;
+}
+
+void CloneTestLink::setSoftRef(AcDbObjectId id)
+{
+    assertWriteEnabled();
+    m_soft = id;
+}
+
+AcDbObjectId CloneTestLink::hardRef() const
+{
+    assertReadEnabled();
+    return m_hard;
+}
+
+void CloneTestLink::setHardRef(AcDbObjectId id)
+{
+    assertWriteEnabled();
+    m_hard = id;
+}
+
+AcDbObjectId CloneTestLink::note() const
+{
+    assertReadEnabled();
+    return m_note;
+}
+
+void CloneTestLink::setNote(AcDbObjectId id)
+{
+    assertWriteEnabled();
+    m_note = id;
+}
+
+Acad::ErrorStatus CloneTestLink::dwgOutFields(AcDbDwgFiler* filer) const
+{
+    assertReadEnabled();
+    const Acad::ErrorStatus es = AcDbEntity::dwgOutFields(filer);
+    if (es != Acad::eOk)
+        return es;
+    filer->writeInt16(kVersion);
+    filer->writeInt32(m_tag);
+    filer->writeSoftPointerId(m_soft);
+    filer->writeHardPointerId(m_hard);
+    filer->writeHardOwnershipId(m_note);
+    return filer->filerStatus();
+}
+
+Acad::ErrorStatus CloneTestLink::dwgInFields(AcDbDwgFiler* filer)
+{
+    assertWriteEnabled();
+    const Acad::ErrorStatus es = AcDbEntity::dwgInFields(filer);
+    if (es != Acad::eOk)
+        return es;
+    Adesk::Int16 version = 0;
+    filer->readInt16(&version);
+    if (version > kVersion)
+        return Acad::eMakeMeProxy;
+    filer->readInt32(&m_tag);
+    filer->readSoftPointerId(&m_soft);
+    filer->readHardPointerId(&m_hard);
+    filer->readHardOwnershipId(&m_note);
+    return filer->filerStatus();
+}
+
+Adesk::Boolean CloneTestLink::subWorldDraw(AcGiWorldDraw* worldDraw)
+{
+    const AcGePoint3d points[2] = {AcGePoint3d(m_tag, 0, 0), AcGePoint3d(m_tag, 1, 0)};
+    worldDraw->geometry().polyline(2, points);
+    return Adesk::kTrue;
+}
+
+Acad::ErrorStatus CloneTestLink::subDeepClone(AcDbObject* owner, AcDbObject*& clone, AcDbIdMapping& idMap,
+                                              Adesk::Boolean isPrimary) const
+{
+    if (m_tag == failingTag)
+        return Acad::eNotApplicable;
+    return AcDbEntity::subDeepClone(owner, clone, idMap, isPrimary);
+}

@@ -1,0 +1,57 @@
+// Classes for the clone and drawing-file suites: an entity that points at other objects
+// (a soft and a hard pointer) and may own a note, and the note it owns.
+#pragma once
+
+#include "AcDbEntity.h"
+#include "AcDbObject.h"
+
+// Registers the classes once.
+void registerCloneTestClasses();
+
+// An owned object with a number.
+class CloneTestNote : public AcDbObject {
+    ACRX_DECLARE_MEMBERS(CloneTestNote);
+
+public:
+    int number() const;
+    void setNumber(int number);
+
+    Acad::ErrorStatus dwgOutFields(AcDbDwgFiler* filer) const override;
+    Acad::ErrorStatus dwgInFields(AcDbDwgFiler* filer) override;
+
+private:
+    Adesk::Int32 m_number = 0;
+};
+
+// An entity with a tag, a soft and a hard pointer, and optionally an owned note. It draws
+// a line from (tag, 0) to (tag, 1) so that drawings of it have graphics to keep.
+class CloneTestLink : public AcDbEntity {
+    ACRX_DECLARE_MEMBERS(CloneTestLink);
+
+public:
+    int tag() const;
+    void setTag(int tag);
+    AcDbObjectId softRef() const;
+    void setSoftRef(AcDbObjectId id);
+    AcDbObjectId hardRef() const;
+    void setHardRef(AcDbObjectId id);
+    AcDbObjectId note() const;
+    void setNote(AcDbObjectId id);
+
+    Acad::ErrorStatus dwgOutFields(AcDbDwgFiler* filer) const override;
+    Acad::ErrorStatus dwgInFields(AcDbDwgFiler* filer) override;
+
+    // Fails its clone when the tag is this value (to drive the abort path).
+    static int failingTag;
+
+protected:
+    Adesk::Boolean subWorldDraw(AcGiWorldDraw* worldDraw) override;
+    Acad::ErrorStatus subDeepClone(AcDbObject* owner, AcDbObject*& clone, AcDbIdMapping& idMap,
+                                   Adesk::Boolean isPrimary = true) const override;
+
+private:
+    Adesk::Int32 m_tag = 0;
+    AcDbSoftPointerId m_soft;
+    AcDbHardPointerId m_hard;
+    AcDbHardOwnershipId m_note;
+};
