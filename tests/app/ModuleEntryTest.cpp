@@ -9,7 +9,9 @@
 #include "app/ClassRegistration.h"
 #include "headless/CommandLine.h"
 #include "headless/RegistryJournal.h"
+#include "headless/HostError.h"
 #include "headless/TextCodec.h"
+#include "openings/AecCircleOpening.h"
 #include "rxdlinkr.h"
 
 namespace {
@@ -62,6 +64,30 @@ TEST(ModuleEntryTest, LoadRegistersInOrderAndUnloadDeletesInTearDownOrder)
     EXPECT_EQ(journal.deleted(), tearDown);
     for (const std::wstring& name : registration)
         EXPECT_EQ(acrxFindAcRxClass(name.c_str()), nullptr) << headless::toUtf8(name);
+}
+
+TEST(ModuleEntryTest, AModuleClassRegistersOnceAndRefusesAnImpostor)
+{
+    ASSERT_TRUE(acrxDynamicLinker->loadModule(kModule, false));
+    AcRxClass* registered = AecCircleOpening::desc();
+    {
+        headless::RegistryJournal journal;
+        AecCircleOpening::rxInit();
+        EXPECT_TRUE(journal.created().empty());
+        EXPECT_EQ(acrxFindAcRxClass(L"AecCircleOpening"), registered);
+    }
+    // A descriptor that is not the registered class of that name is a conflict between
+    // modules: the host stops.
+    AecCircleOpening::gpDesc = AcDbCircle::desc();
+    try {
+        AecCircleOpening::rxInit();
+        ADD_FAILURE() << "rxInit accepted a different class object";
+    } catch (const headless::HostError& error) {
+        EXPECT_STREQ(error.what(), "Class mismatch");
+    }
+    AecCircleOpening::gpDesc = registered;
+    headless::CommandLineCapture quiet;
+    EXPECT_TRUE(acrxDynamicLinker->unloadModule(kModule, false));
 }
 
 TEST(BuildStampTest, CompilerDateAndTimeBecomeTheStamp)

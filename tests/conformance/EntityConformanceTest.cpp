@@ -9,8 +9,12 @@
 #include "ConformanceCases.h"
 #include "ModuleTestSupport.h"
 #include "geplane.h"
+#include "DrawingFilePatch.h"
+#include "dbproxy.h"
+#include "headless/DrawingFile.h"
 #include "headless/MemoryDwgFiler.h"
 #include "headless/RecordingWorldDraw.h"
+#include "headless/CommandLine.h"
 #include "headless/UndoHistory.h"
 
 namespace {
@@ -114,6 +118,42 @@ TYPED_TEST(EntityConformanceTest, ANewerClassVersionIsRefused)
         bytes[at + static_cast<std::size_t>(i)] = static_cast<std::uint8_t>(static_cast<Adesk::UInt32>(newer) >> (8 * i));
     std::unique_ptr<TypeParam> target(new TypeParam());
     EXPECT_EQ(qxtest::FileIn(target.get(), bytes, this->working.db()), Acad::eMakeMeProxy);
+}
+
+TYPED_TEST(EntityConformanceTest, ADrawingKeepsANewerVersionAsAProxyAndLosesNothing)
+{
+    AcDbObjectId id;
+    TypeParam* entity = this->AddSample(AcDb::kForRead, &id);
+    const AcDbHandle handle = entity->objectId().handle();
+    headless::MemoryDwgFiler hostPart(AcDb::kFileFiler, this->working.db());
+    using HostBase = typename ConformanceCase<TypeParam>::HostBase;
+    ASSERT_EQ(entity->HostBase::dwgOutFields(&hostPart), Acad::eOk);
+    const std::size_t versionAt = hostPart.bytes().size();
+    entity->close();
+
+    std::vector<std::uint8_t> file;
+    ASSERT_EQ(headless::DrawingFile::write(this->working.db(), file), Acad::eOk);
+    ASSERT_TRUE(qxtest::PatchObjectBytes(file, handle, [&](std::vector<std::uint8_t>& bytes) {
+        qxtest::PutInt32(bytes, versionAt, TypeParam::kCurrentVersion + 1);
+    }));
+
+    AcDbDatabase* reopened = nullptr;
+    headless::DrawingReadReport report;
+    headless::CommandLineCapture quiet;
+    ASSERT_EQ(headless::DrawingFile::read(file, reopened, &report), Acad::eOk);
+    std::unique_ptr<AcDbDatabase> owner(reopened);
+    EXPECT_EQ(report.proxies, 1);
+    AcDbObjectId proxyId;
+    ASSERT_EQ(reopened->getAcDbObjectId(proxyId, false, handle), Acad::eOk);
+    AcDbObject* proxy = nullptr;
+    ASSERT_EQ(acdbOpenObject(proxy, proxyId, AcDb::kForRead), Acad::eOk);
+    EXPECT_TRUE(proxy->isAProxy());
+    EXPECT_NE(AcDbProxyEntity::cast(proxy), nullptr);
+    proxy->close();
+
+    std::vector<std::uint8_t> saved;
+    ASSERT_EQ(headless::DrawingFile::write(reopened, saved), Acad::eOk);
+    EXPECT_EQ(saved, file);
 }
 
 TYPED_TEST(EntityConformanceTest, TransformThenInverseRestoresTheGeometry)

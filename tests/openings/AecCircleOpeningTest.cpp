@@ -4,6 +4,7 @@
 #include "ModuleTestSupport.h"
 #include "dbsymtb.h"
 #include "headless/CommandLine.h"
+#include "headless/DrawingFile.h"
 #include "headless/MemoryDwgFiler.h"
 #include "headless/RecordingDwgFiler.h"
 #include "headless/TextCodec.h"
@@ -118,6 +119,43 @@ TEST_F(AecCircleOpeningTest, ARoundTripKeepsCircleStyleAndTitle)
     EXPECT_TRUE(qxtest::Near(read.titleLabel.GetPosition(), AcGePoint3d(100, 300, 0)));
     EXPECT_EQ(read.titleLabel.GetHeight(), 100);
     EXPECT_EQ(qxtest::FileOut(&copy, working.db()), bytes);
+}
+
+TEST_F(AecCircleOpeningTest, ADrawingSavedAndReopenedKeepsTheOpening)
+{
+    const AcDbObjectId style = AddTextStyle(L"洞口文字");
+    AecCircleOpening* source = MakeOpening(L"圆洞 D=100");
+    source->setNormal(AcGeVector3d(0, 0, -1));
+    CircleOpeningData data = source->GetData();
+    data.textStyleId = style;
+    source->SetData(data);
+    const AcDbObjectId id = working.Add(source);
+
+    std::vector<std::uint8_t> file;
+    ASSERT_EQ(headless::DrawingFile::write(working.db(), file), Acad::eOk);
+    AcDbDatabase* reopened = nullptr;
+    ASSERT_EQ(headless::DrawingFile::read(file, reopened), Acad::eOk);
+    std::unique_ptr<AcDbDatabase> owner(reopened);
+
+    AcDbObjectId copyId;
+    ASSERT_EQ(reopened->getAcDbObjectId(copyId, false, id.handle()), Acad::eOk);
+    AecCircleOpening* copy = nullptr;
+    ASSERT_EQ(acdbOpenObject(copy, copyId, AcDb::kForRead), Acad::eOk);
+    EXPECT_TRUE(qxtest::Near(copy->center(), AcGePoint3d(100, 200, 0)));
+    EXPECT_EQ(copy->radius(), 50);
+    EXPECT_TRUE(qxtest::Near(copy->normal(), AcGeVector3d(0, 0, -1)));
+    const CircleOpeningData read = copy->GetData();
+    EXPECT_EQ(read.textStyleId.handle(), style.handle());
+    EXPECT_EQ(read.textStyleId.database(), reopened);
+    EXPECT_EQ(read.titleLabel.GetLabel(), AcString(L"圆洞 D=100"));
+    EXPECT_TRUE(read.titleLabel.IsVisible());
+    EXPECT_TRUE(qxtest::Near(read.titleLabel.GetPosition(), AcGePoint3d(100, 300, 0)));
+    EXPECT_EQ(read.titleLabel.GetHeight(), 100);
+    copy->close();
+
+    std::vector<std::uint8_t> again;
+    ASSERT_EQ(headless::DrawingFile::write(reopened, again), Acad::eOk);
+    EXPECT_EQ(again, file);
 }
 
 TEST_F(AecCircleOpeningTest, ANewerClassVersionIsRefused)
