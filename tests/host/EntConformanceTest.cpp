@@ -141,12 +141,19 @@ TYPED_TEST(EntConformanceTest, UndoRestoresAnEdit)
     opened->close();
     history.endGroup();
     ASSERT_EQ(acdbOpenAcDbEntity(opened, id, AcDb::kForRead), Acad::eOk);
-    EXPECT_NE(enttest::fileOut(opened, this->m_wdb.db()), before);
+    const enttest::Bytes after = enttest::fileOut(opened, this->m_wdb.db());
+    EXPECT_NE(after, before);
     opened->close();
 
     ASSERT_EQ(history.undo(), Acad::eOk);
     ASSERT_EQ(acdbOpenAcDbEntity(opened, id, AcDb::kForRead), Acad::eOk);
     EXPECT_EQ(enttest::fileOut(opened, this->m_wdb.db()), before);
+    opened->close();
+
+    // Redo files the edited state back in, exactly.
+    ASSERT_EQ(history.redo(), Acad::eOk);
+    ASSERT_EQ(acdbOpenAcDbEntity(opened, id, AcDb::kForRead), Acad::eOk);
+    EXPECT_EQ(enttest::fileOut(opened, this->m_wdb.db()), after);
     opened->close();
 }
 
