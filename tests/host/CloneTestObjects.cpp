@@ -22,25 +22,12 @@ void registerCloneTestClasses()
     acrxBuildClassHierarchy();
 }
 
-int CloneTestNote::number() const
-{
-    assertReadEnabled();
-    return m_number;
-}
-
-void CloneTestNote::setNumber(int number)
-{
-    assertWriteEnabled();
-    m_number = number;
-}
-
 Acad::ErrorStatus CloneTestNote::dwgOutFields(AcDbDwgFiler* filer) const
 {
     assertReadEnabled();
-    const Acad::ErrorStatus es = AcDbObject::dwgOutFields(filer);
+    const Acad::ErrorStatus es = testobj::writeHead<AcDbObject>(this, filer, kVersion);
     if (es != Acad::eOk)
         return es;
-    filer->writeInt16(kVersion);
     filer->writeInt32(m_number);
     return filer->filerStatus();
 }
@@ -48,74 +35,21 @@ Acad::ErrorStatus CloneTestNote::dwgOutFields(AcDbDwgFiler* filer) const
 Acad::ErrorStatus CloneTestNote::dwgInFields(AcDbDwgFiler* filer)
 {
     assertWriteEnabled();
-    const Acad::ErrorStatus es = AcDbObject::dwgInFields(filer);
+    const Acad::ErrorStatus es = testobj::readHead<AcDbObject>(this, filer, kVersion);
     if (es != Acad::eOk)
         return es;
-    Adesk::Int16 version = 0;
-    filer->readInt16(&version);
-    if (version > kVersion)
-        return Acad::eMakeMeProxy;
     filer->readInt32(&m_number);
     return filer->filerStatus();
 }
 
 int CloneTestLink::failingTag = -1;
 
-int CloneTestLink::tag() const
-{
-    assertReadEnabled();
-    return m_tag;
-}
-
-void CloneTestLink::setTag(int tag)
-{
-    assertWriteEnabled();
-    m_tag = tag;
-}
-
-AcDbObjectId CloneTestLink::softRef() const
-{
-    assertReadEnabled();
-    return m_soft;
-}
-
-void CloneTestLink::setSoftRef(AcDbObjectId id)
-{
-    assertWriteEnabled();
-    m_soft = id;
-}
-
-AcDbObjectId CloneTestLink::hardRef() const
-{
-    assertReadEnabled();
-    return m_hard;
-}
-
-void CloneTestLink::setHardRef(AcDbObjectId id)
-{
-    assertWriteEnabled();
-    m_hard = id;
-}
-
-AcDbObjectId CloneTestLink::note() const
-{
-    assertReadEnabled();
-    return m_note;
-}
-
-void CloneTestLink::setNote(AcDbObjectId id)
-{
-    assertWriteEnabled();
-    m_note = id;
-}
-
 Acad::ErrorStatus CloneTestLink::dwgOutFields(AcDbDwgFiler* filer) const
 {
     assertReadEnabled();
-    const Acad::ErrorStatus es = AcDbEntity::dwgOutFields(filer);
+    const Acad::ErrorStatus es = testobj::writeHead<AcDbEntity>(this, filer, kVersion);
     if (es != Acad::eOk)
         return es;
-    filer->writeInt16(kVersion);
     filer->writeInt32(m_tag);
     filer->writeSoftPointerId(m_soft);
     filer->writeHardPointerId(m_hard);
@@ -126,13 +60,9 @@ Acad::ErrorStatus CloneTestLink::dwgOutFields(AcDbDwgFiler* filer) const
 Acad::ErrorStatus CloneTestLink::dwgInFields(AcDbDwgFiler* filer)
 {
     assertWriteEnabled();
-    const Acad::ErrorStatus es = AcDbEntity::dwgInFields(filer);
+    const Acad::ErrorStatus es = testobj::readHead<AcDbEntity>(this, filer, kVersion);
     if (es != Acad::eOk)
         return es;
-    Adesk::Int16 version = 0;
-    filer->readInt16(&version);
-    if (version > kVersion)
-        return Acad::eMakeMeProxy;
     filer->readInt32(&m_tag);
     filer->readSoftPointerId(&m_soft);
     filer->readHardPointerId(&m_hard);

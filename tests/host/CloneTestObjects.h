@@ -4,6 +4,7 @@
 
 #include "AcDbEntity.h"
 #include "AcDbObject.h"
+#include "TestObjectAccess.h"
 
 // Registers the classes once.
 void registerCloneTestClasses();
@@ -13,8 +14,8 @@ class CloneTestNote : public AcDbObject {
     ACRX_DECLARE_MEMBERS(CloneTestNote);
 
 public:
-    int number() const;
-    void setNumber(int number);
+    int number() const { return testobj::readField(this, m_number); }
+    void setNumber(int number) { testobj::writeField(this, m_number, number); }
 
     Acad::ErrorStatus dwgOutFields(AcDbDwgFiler* filer) const override;
     Acad::ErrorStatus dwgInFields(AcDbDwgFiler* filer) override;
@@ -29,14 +30,14 @@ class CloneTestLink : public AcDbEntity {
     ACRX_DECLARE_MEMBERS(CloneTestLink);
 
 public:
-    int tag() const;
-    void setTag(int tag);
-    AcDbObjectId softRef() const;
-    void setSoftRef(AcDbObjectId id);
-    AcDbObjectId hardRef() const;
-    void setHardRef(AcDbObjectId id);
-    AcDbObjectId note() const;
-    void setNote(AcDbObjectId id);
+    int tag() const { return testobj::readField(this, m_tag); }
+    void setTag(int tag) { testobj::writeField(this, m_tag, tag); }
+    AcDbObjectId softRef() const { return testobj::readField(this, m_soft); }
+    void setSoftRef(AcDbObjectId id) { testobj::writeField(this, m_soft, id); }
+    AcDbObjectId hardRef() const { return testobj::readField(this, m_hard); }
+    void setHardRef(AcDbObjectId id) { testobj::writeField(this, m_hard, id); }
+    AcDbObjectId note() const { return testobj::readField(this, m_note); }
+    void setNote(AcDbObjectId id) { testobj::writeField(this, m_note, id); }
 
     Acad::ErrorStatus dwgOutFields(AcDbDwgFiler* filer) const override;
     Acad::ErrorStatus dwgInFields(AcDbDwgFiler* filer) override;

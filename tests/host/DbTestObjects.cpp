@@ -25,54 +25,6 @@ DbTestThing::~DbTestThing()
     ++destroyed;
 }
 
-int DbTestThing::value() const
-{
-    assertReadEnabled();
-    return m_value;
-}
-
-void DbTestThing::setValue(int value)
-{
-    assertWriteEnabled();
-    m_value = value;
-}
-
-AcString DbTestThing::text() const
-{
-    assertReadEnabled();
-    return m_text;
-}
-
-void DbTestThing::setText(const ACHAR* text)
-{
-    assertWriteEnabled();
-    m_text = text;
-}
-
-double DbTestThing::length() const
-{
-    assertReadEnabled();
-    return m_length;
-}
-
-void DbTestThing::setLength(double length)
-{
-    assertWriteEnabled();
-    m_length = length;
-}
-
-AcDbObjectId DbTestThing::reference() const
-{
-    assertReadEnabled();
-    return m_reference;
-}
-
-void DbTestThing::setReference(AcDbObjectId id)
-{
-    assertWriteEnabled();
-    m_reference = id;
-}
-
 Acad::ErrorStatus DbTestThing::dwgOutFields(AcDbDwgFiler* filer) const
 {
     assertReadEnabled();
@@ -103,12 +55,6 @@ Acad::ErrorStatus DbTestThing::dwgInFields(AcDbDwgFiler* filer)
     filer->readHardPointerId(&m_reference);
     m_sawUndoing = isUndoing();
     return filer->filerStatus();
-}
-
-int DbTestCounter::count() const
-{
-    assertReadEnabled();
-    return m_count;
 }
 
 void DbTestCounter::setCount(int count)

@@ -4,6 +4,7 @@
 
 #include "AcDbEntity.h"
 #include "AcDbObject.h"
+#include "TestObjectAccess.h"
 #include "AcString.h"
 
 // Registers the test classes once (the host's own classes come first).
@@ -18,14 +19,14 @@ public:
     DbTestThing() = default;
     ~DbTestThing() override;
 
-    int value() const;
-    void setValue(int value);
-    AcString text() const;
-    void setText(const ACHAR* text);
-    double length() const;
-    void setLength(double length);
-    AcDbObjectId reference() const;
-    void setReference(AcDbObjectId id);
+    int value() const { return testobj::readField(this, m_value); }
+    void setValue(int value) { testobj::writeField(this, m_value, value); }
+    AcString text() const { return testobj::readField(this, m_text); }
+    void setText(const ACHAR* text) { testobj::writeField(this, m_text, text); }
+    double length() const { return testobj::readField(this, m_length); }
+    void setLength(double length) { testobj::writeField(this, m_length, length); }
+    AcDbObjectId reference() const { return testobj::readField(this, m_reference); }
+    void setReference(AcDbObjectId id) { testobj::writeField(this, m_reference, id); }
 
     // Whether the last dwgInFields ran while the object was undoing.
     bool sawUndoing() const { return m_sawUndoing; }
@@ -49,7 +50,7 @@ class DbTestCounter : public AcDbObject {
     ACRX_DECLARE_MEMBERS(DbTestCounter);
 
 public:
-    int count() const;
+    int count() const { return testobj::readField(this, m_count); }
     void setCount(int count);
     Acad::ErrorStatus applyPartialUndo(AcDbDwgFiler* undoFiler, AcRxClass* classObj) override;
 

@@ -19,74 +19,22 @@ Adesk::Int16 FileTestShape::writeVersion = 1;
 
 void FileTestShape::registerWith(int proxyFlags)
 {
-    unregister();
-    gpDesc = newAcRxClass(L"FileTestShape", L"AcDbEntity", AcDb::kDHL_CURRENT, AcDb::kMReleaseCurrent, proxyFlags,
-                          &makeShape, L"FILE_TEST_SHAPE", L"FileTests|Product Desc: shapes for drawing tests");
-    acrxBuildClassHierarchy();
+    gpDesc = testobj::registerByHand(L"FileTestShape", L"AcDbEntity", proxyFlags, &makeShape, L"FILE_TEST_SHAPE",
+                                     L"FileTests|Product Desc: shapes for drawing tests");
 }
 
 void FileTestShape::unregister()
 {
-    if (AcRxClass* cls = acrxFindAcRxClass(L"FileTestShape"))
-        deleteAcRxClass(cls);
+    testobj::unregisterByHand(L"FileTestShape");
     gpDesc = nullptr;
-}
-
-AcGePoint3d FileTestShape::center() const
-{
-    assertReadEnabled();
-    return m_center;
-}
-
-void FileTestShape::setCenter(const AcGePoint3d& center)
-{
-    assertWriteEnabled();
-    m_center = center;
-}
-
-double FileTestShape::radius() const
-{
-    assertReadEnabled();
-    return m_radius;
-}
-
-void FileTestShape::setRadius(double radius)
-{
-    assertWriteEnabled();
-    m_radius = radius;
-}
-
-AcString FileTestShape::label() const
-{
-    assertReadEnabled();
-    return m_label;
-}
-
-void FileTestShape::setLabel(const ACHAR* label)
-{
-    assertWriteEnabled();
-    m_label = label;
-}
-
-AcDbObjectId FileTestShape::link() const
-{
-    assertReadEnabled();
-    return m_link;
-}
-
-void FileTestShape::setLink(AcDbObjectId id)
-{
-    assertWriteEnabled();
-    m_link = id;
 }
 
 Acad::ErrorStatus FileTestShape::dwgOutFields(AcDbDwgFiler* filer) const
 {
     assertReadEnabled();
-    const Acad::ErrorStatus es = AcDbEntity::dwgOutFields(filer);
+    const Acad::ErrorStatus es = testobj::writeHead<AcDbEntity>(this, filer, writeVersion);
     if (es != Acad::eOk)
         return es;
-    filer->writeInt16(writeVersion);
     filer->writePoint3d(m_center);
     filer->writeDouble(m_radius);
     filer->writeString(m_label);
@@ -97,13 +45,9 @@ Acad::ErrorStatus FileTestShape::dwgOutFields(AcDbDwgFiler* filer) const
 Acad::ErrorStatus FileTestShape::dwgInFields(AcDbDwgFiler* filer)
 {
     assertWriteEnabled();
-    const Acad::ErrorStatus es = AcDbEntity::dwgInFields(filer);
+    const Acad::ErrorStatus es = testobj::readHead<AcDbEntity>(this, filer, 1);
     if (es != Acad::eOk)
         return es;
-    Adesk::Int16 version = 0;
-    filer->readInt16(&version);
-    if (version > 1)
-        return Acad::eMakeMeProxy;
     filer->readPoint3d(&m_center);
     filer->readDouble(&m_radius);
     filer->readString(m_label);
@@ -134,41 +78,14 @@ Acad::ErrorStatus FileTestShape::subTransformBy(const AcGeMatrix3d& xform)
 
 void FileTestRecord::registerWith(int proxyFlags)
 {
-    unregister();
-    gpDesc = newAcRxClass(L"FileTestRecord", L"AcDbObject", AcDb::kDHL_CURRENT, AcDb::kMReleaseCurrent, proxyFlags,
-                          &makeRecord, L"FILE_TEST_RECORD", L"FileTests");
-    acrxBuildClassHierarchy();
+    gpDesc = testobj::registerByHand(L"FileTestRecord", L"AcDbObject", proxyFlags, &makeRecord, L"FILE_TEST_RECORD",
+                                     L"FileTests");
 }
 
 void FileTestRecord::unregister()
 {
-    if (AcRxClass* cls = acrxFindAcRxClass(L"FileTestRecord"))
-        deleteAcRxClass(cls);
+    testobj::unregisterByHand(L"FileTestRecord");
     gpDesc = nullptr;
-}
-
-int FileTestRecord::number() const
-{
-    assertReadEnabled();
-    return m_number;
-}
-
-void FileTestRecord::setNumber(int number)
-{
-    assertWriteEnabled();
-    m_number = number;
-}
-
-AcDbObjectId FileTestRecord::target() const
-{
-    assertReadEnabled();
-    return m_target;
-}
-
-void FileTestRecord::setTarget(AcDbObjectId id)
-{
-    assertWriteEnabled();
-    m_target = id;
 }
 
 Acad::ErrorStatus FileTestRecord::dwgOutFields(AcDbDwgFiler* filer) const
@@ -190,13 +107,9 @@ Acad::ErrorStatus FileTestRecord::dwgOutFields(AcDbDwgFiler* filer) const
 Acad::ErrorStatus FileTestRecord::dwgInFields(AcDbDwgFiler* filer)
 {
     assertWriteEnabled();
-    const Acad::ErrorStatus es = AcDbObject::dwgInFields(filer);
+    const Acad::ErrorStatus es = testobj::readHead<AcDbObject>(this, filer, 1);
     if (es != Acad::eOk)
         return es;
-    Adesk::Int16 version = 0;
-    filer->readInt16(&version);
-    if (version > 1)
-        return Acad::eMakeMeProxy;
     filer->readInt32(&m_number);
     filer->readHardPointerId(&m_target);
     return filer->filerStatus();

@@ -5,6 +5,7 @@
 
 #include "AcDbEntity.h"
 #include "AcDbObject.h"
+#include "TestObjectAccess.h"
 #include "AcString.h"
 
 class FileTestShape : public AcDbEntity {
@@ -18,14 +19,14 @@ public:
     static void registerWith(int proxyFlags);
     static void unregister();
 
-    AcGePoint3d center() const;
-    void setCenter(const AcGePoint3d& center);
-    double radius() const;
-    void setRadius(double radius);
-    AcString label() const;
-    void setLabel(const ACHAR* label);
-    AcDbObjectId link() const;
-    void setLink(AcDbObjectId id);
+    AcGePoint3d center() const { return testobj::readField(this, m_center); }
+    void setCenter(const AcGePoint3d& center) { testobj::writeField(this, m_center, center); }
+    double radius() const { return testobj::readField(this, m_radius); }
+    void setRadius(double radius) { testobj::writeField(this, m_radius, radius); }
+    AcString label() const { return testobj::readField(this, m_label); }
+    void setLabel(const ACHAR* label) { testobj::writeField(this, m_label, label); }
+    AcDbObjectId link() const { return testobj::readField(this, m_link); }
+    void setLink(AcDbObjectId id) { testobj::writeField(this, m_link, id); }
 
     Acad::ErrorStatus dwgOutFields(AcDbDwgFiler* filer) const override;
     Acad::ErrorStatus dwgInFields(AcDbDwgFiler* filer) override;
@@ -49,10 +50,10 @@ public:
     static void registerWith(int proxyFlags);
     static void unregister();
 
-    int number() const;
-    void setNumber(int number);
-    AcDbObjectId target() const;
-    void setTarget(AcDbObjectId id);
+    int number() const { return testobj::readField(this, m_number); }
+    void setNumber(int number) { testobj::writeField(this, m_number, number); }
+    AcDbObjectId target() const { return testobj::readField(this, m_target); }
+    void setTarget(AcDbObjectId id) { testobj::writeField(this, m_target, id); }
 
     Acad::ErrorStatus dwgOutFields(AcDbDwgFiler* filer) const override;
     Acad::ErrorStatus dwgInFields(AcDbDwgFiler* filer) override;
