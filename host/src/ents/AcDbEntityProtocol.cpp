@@ -226,6 +226,8 @@ Acad::ErrorStatus AcDbEntity::subGetGeomExtents(AcDbExtents&) const
     return Acad::eInvalidExtents;
 }
 
+// A plain entity offers no snap points and no intersections: classes with geometry override
+// these, and callers take eNotImplemented as "none" rather than as a failure.
 Acad::ErrorStatus AcDbEntity::subGetOsnapPoints(AcDb::OsnapMode, Adesk::GsMarker, const AcGePoint3d&,
                                                 const AcGePoint3d&, const AcGeMatrix3d&, AcGePoint3dArray&,
                                                 AcDbIntArray&) const
