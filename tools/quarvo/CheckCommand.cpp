@@ -96,7 +96,8 @@ int RunCheck(const CheckOptions& options)
         std::printf("Clean: %zu entities checked.\n", ids.size());
         return kExitOk;
     }
-    std::printf("%d finding%s in %zu entities.\n", findings, findings == 1 ? "" : "s", ids.size());
+    std::printf("%d finding%s in %zu entit%s.\n", findings, findings == 1 ? "" : "s", ids.size(),
+                ids.size() == 1 ? "y" : "ies");
     return kExitFindings;
 }
 

@@ -2,6 +2,7 @@
 // (JieDian) and flashing (ShouBian) display settings and the three information blocks.
 #include "DivisionLineBuilder.h"
 
+#include <cstdio>
 #include <memory>
 
 #include "lines/AecDivisionLine.h"
@@ -13,6 +14,13 @@ namespace {
 constexpr double kMinLength = 5.0;
 constexpr double kMaxLength = 512000.0;
 constexpr double kMaxBulge = 1000.0;
+
+std::string FormatLength(double length)
+{
+    char text[32];
+    std::snprintf(text, sizeof text, "%g", length);
+    return text;
+}
 
 double Indent(JsonObjectReader& item, const char* key, double fallback)
 {
@@ -31,7 +39,7 @@ void BuildDivisionLine(JsonObjectReader& item, LayoutContext& context)
     const AcGePoint3d end = item.RequiredPoint("end");
     const double length = start.distanceTo(end);
     if (length < kMinLength || length > kMaxLength)
-        throw LayoutError(item.path(), "a division line is 5 to 512000 long, this one " + std::to_string(length));
+        throw LayoutError(item.path(), "a division line is 5 to 512000 long, this one is " + FormatLength(length));
     const double bulge = item.Number("bulge", 0.0);
     if (bulge < -kMaxBulge || bulge > kMaxBulge)
         throw LayoutError(item.PathOf("bulge"), "must be -1000 to 1000");

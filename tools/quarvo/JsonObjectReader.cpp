@@ -31,6 +31,12 @@ JsonObjectReader::JsonObjectReader(const rapidjson::Value& value, std::string pa
 {
     if (!value.IsObject())
         throw LayoutError(m_path, "must be an object");
+    // JSON leaves a repeated member to the reader; a description must not depend on which wins.
+    std::set<std::string> names;
+    for (const auto& member : value.GetObject()) {
+        if (!names.insert(std::string(member.name.GetString(), member.name.GetStringLength())).second)
+            throw LayoutError(m_path, "member " + Quoted(member.name.GetString()) + " is given twice");
+    }
 }
 
 std::string JsonObjectReader::PathOf(const char* key) const
@@ -97,7 +103,9 @@ int JsonObjectReader::Integer(const char* key, int fallback, int min, int max)
         throw LayoutError(PathOf(key), "must be a whole number");
     const int number = value->GetInt();
     if (number < min || number > max)
-        throw LayoutError(PathOf(key), "must be " + std::to_string(min) + " to " + std::to_string(max));
+        throw LayoutError(PathOf(key),
+                          min == max ? "must be " + std::to_string(min)
+                                     : "must be " + std::to_string(min) + " to " + std::to_string(max));
     return number;
 }
 
@@ -126,8 +134,8 @@ AcGePoint3d JsonObjectReader::Point(const char* key, const AcGePoint3d& fallback
     const rapidjson::Value* value = Member(key);
     if (value == nullptr)
         return fallback;
-    const LayoutVertex vertex = VertexAt(*value, PathOf(key));
-    if (vertex.bulge != 0.0)
+    const LayoutVertex vertex = VertexAt(*value, PathOf(key), "point");
+    if (value->HasMember("bulge"))
         throw LayoutError(PathOf(key), "a point has no bulge");
     return AcGePoint3d(vertex.x, vertex.y, 0.0);
 }
@@ -195,10 +203,10 @@ int JsonObjectReader::Flags(const char* key, const std::vector<std::pair<const c
     return bits;
 }
 
-LayoutVertex JsonObjectReader::VertexAt(const rapidjson::Value& value, const std::string& path) const
+LayoutVertex JsonObjectReader::VertexAt(const rapidjson::Value& value, const std::string& path, const char* what) const
 {
     if (!value.IsObject() || !value.HasMember("x") || !value.HasMember("y"))
-        throw LayoutError(path, "a vertex needs x and y");
+        throw LayoutError(path, std::string("a ") + what + " needs x and y");
     LayoutVertex vertex;
     for (const auto& member : value.GetObject()) {
         const std::string name(member.name.GetString(), member.name.GetStringLength());
@@ -210,7 +218,7 @@ LayoutVertex JsonObjectReader::VertexAt(const rapidjson::Value& value, const std
         else if (name == "bulge")
             vertex.bulge = NumberAt(member.value, at);
         else
-            throw LayoutError(path, "unknown member " + Quoted(name) + " (a vertex has x, y and bulge)");
+            throw LayoutError(path, "unknown member " + Quoted(name) + " (a " + what + " has x, y and bulge)");
     }
     return vertex;
 }
@@ -226,7 +234,7 @@ std::vector<LayoutVertex> JsonObjectReader::VertexList(const rapidjson::Value& v
         throw LayoutError(path, "has more than " + std::to_string(kMaxVertices) + " vertices");
     std::vector<LayoutVertex> vertices;
     for (rapidjson::SizeType i = 0; i < value.Size(); ++i)
-        vertices.push_back(VertexAt(value[i], path + "[" + std::to_string(i) + "]"));
+        vertices.push_back(VertexAt(value[i], path + "[" + std::to_string(i) + "]", "vertex"));
     return vertices;
 }
 

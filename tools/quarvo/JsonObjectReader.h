@@ -88,7 +88,8 @@ public:
 private:
     const rapidjson::Value* Member(const char* key);
     double NumberAt(const rapidjson::Value& value, const std::string& path) const;
-    LayoutVertex VertexAt(const rapidjson::Value& value, const std::string& path) const;
+    // what: "vertex" or "point", as the refusals call it.
+    LayoutVertex VertexAt(const rapidjson::Value& value, const std::string& path, const char* what) const;
     std::vector<LayoutVertex> VertexList(const rapidjson::Value& value, const std::string& path,
                                          std::size_t minCount) const;
 
