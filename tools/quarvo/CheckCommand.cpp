@@ -6,7 +6,6 @@
 
 #include "DrawingQueries.h"
 #include "EntityChecks.h"
-#include "Progress.h"
 #include "ToolError.h"
 #include "ToolSession.h"
 #include "dbproxy.h"
@@ -66,12 +65,9 @@ int RunCheck(const CheckOptions& options)
     }
 
     const std::vector<AcDbObjectId> ids = DrawingQueries::ModelSpaceEntities(db);
-    Progress progress("Checking", ids.size());
-    for (std::size_t i = 0; i < ids.size(); ++i) {
-        progress.Step(i);
-        AcDbEntity* entity = nullptr;
-        if (acdbOpenObject(entity, ids[i], AcDb::kForRead) != Acad::eOk)
-            continue;
+    DrawingQueries::ForEachEntity(ids, "Checking", [&](const AcDbObjectId& id, AcDbEntity* entity) {
+        if (entity == nullptr)
+            return;
         std::vector<std::string> found;
         if (AcDbProxyEntity::cast(entity) != nullptr) {
             found.push_back(ProxyFinding(entity));
@@ -85,12 +81,11 @@ int RunCheck(const CheckOptions& options)
             WarningsIn(printed.text(), found);
         }
         const std::string who =
-            DrawingQueries::HandleText(ids[i]) + " " + headless::toUtf8(DrawingQueries::TypeName(entity));
-        entity->close();
+            DrawingQueries::HandleText(id) + " " + headless::toUtf8(DrawingQueries::TypeName(entity));
         for (const std::string& finding : found)
             std::printf("%s: %s\n", who.c_str(), finding.c_str());
         findings += static_cast<int>(found.size());
-    }
+    });
 
     if (findings == 0) {
         std::printf("Clean: %zu entities checked.\n", ids.size());

@@ -3,6 +3,7 @@
 
 #include <cctype>
 
+#include "Progress.h"
 #include "ToolError.h"
 #include "dbproxy.h"
 #include "dbsymtb.h"
@@ -32,6 +33,26 @@ std::vector<AcDbObjectId> DrawingQueries::ModelSpaceEntities(AcDbDatabase* db)
     }
     model->close();
     return ids;
+}
+
+void DrawingQueries::ForEachEntity(const std::vector<AcDbObjectId>& ids, const char* what,
+                                   const std::function<void(const AcDbObjectId&, AcDbEntity*)>& visit)
+{
+    Progress progress(what, ids.size());
+    for (std::size_t i = 0; i < ids.size(); ++i) {
+        progress.Step(i);
+        AcDbEntity* entity = nullptr;
+        if (acdbOpenObject(entity, ids[i], AcDb::kForRead) != Acad::eOk) {
+            visit(ids[i], nullptr);
+            continue;
+        }
+        // The entity is closed even when visit throws.
+        struct Closer {
+            AcDbEntity* entity;
+            ~Closer() { entity->close(); }
+        } closer{entity};
+        visit(ids[i], entity);
+    }
 }
 
 AcDbObjectId DrawingQueries::ObjectOfHandle(AcDbDatabase* db, const std::string& text)

@@ -3,6 +3,7 @@
 // turned into single lines for the tool's own output.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -14,6 +15,10 @@ class DrawingQueries {
 public:
     // Model space's entities in drawing order.
     static std::vector<AcDbObjectId> ModelSpaceEntities(AcDbDatabase* db);
+    // Opens each of ids for read in turn and hands it to visit (null when it is not an
+    // entity), closing it afterwards; long work shows progress as what.
+    static void ForEachEntity(const std::vector<AcDbObjectId>& ids, const char* what,
+                              const std::function<void(const AcDbObjectId&, AcDbEntity*)>& visit);
     // The object with the handle typed as hexadecimal ("2A", "0x2a"). ToolError naming the
     // text when it is not a handle or when db has no live object with it.
     static AcDbObjectId ObjectOfHandle(AcDbDatabase* db, const std::string& text);

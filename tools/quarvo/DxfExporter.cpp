@@ -13,7 +13,6 @@
 
 #include "DrawingQueries.h"
 #include "OutputFile.h"
-#include "Progress.h"
 #include "ToolError.h"
 #include "dbsymtb.h"
 #include "headless/RecordingWorldDraw.h"
@@ -84,21 +83,17 @@ public:
 
     void Collect()
     {
-        const std::vector<AcDbObjectId> ids = DrawingQueries::ModelSpaceEntities(m_db);
-        Progress progress("Drawing", ids.size());
-        for (std::size_t i = 0; i < ids.size(); ++i) {
-            progress.Step(i);
-            AcDbEntity* entity = nullptr;
-            if (acdbOpenObject(entity, ids[i], AcDb::kForRead) != Acad::eOk)
-                continue;
-            headless::RecordingWorldDraw draw;
-            draw.setDatabase(m_db);
-            draw.drawDrawable(entity);
-            const AcDbObjectId entityLayer = entity->layerId();
-            entity->close();
-            for (const RecordedPrimitive& p : draw.primitives())
-                m_drawn.push_back({p, p.traits.layerId.isNull() ? entityLayer : p.traits.layerId});
-        }
+        DrawingQueries::ForEachEntity(
+            DrawingQueries::ModelSpaceEntities(m_db), "Drawing", [this](const AcDbObjectId&, AcDbEntity* entity) {
+                if (entity == nullptr)
+                    return;
+                headless::RecordingWorldDraw draw;
+                draw.setDatabase(m_db);
+                draw.drawDrawable(entity);
+                const AcDbObjectId layer = entity->layerId();
+                for (const RecordedPrimitive& p : draw.primitives())
+                    m_drawn.push_back({p, p.traits.layerId.isNull() ? layer : p.traits.layerId});
+            });
     }
 
     DxfExportSummary Write()

@@ -6,7 +6,6 @@
 #include <cwctype>
 
 #include "DrawingQueries.h"
-#include "Progress.h"
 #include "ToolError.h"
 #include "ToolSession.h"
 #include "acutads.h"
@@ -41,23 +40,18 @@ int RunList(const ListOptions& options)
     for (const std::string& type : options.types)
         types.push_back(UpperCase(headless::fromUtf8(type)));
 
-    Progress progress("Listing", ids.size());
-    for (std::size_t i = 0; i < ids.size(); ++i) {
-        progress.Step(i);
-        AcDbEntity* entity = nullptr;
-        if (acdbOpenObject(entity, ids[i], AcDb::kForRead) != Acad::eOk) {
+    DrawingQueries::ForEachEntity(ids, "Listing", [&](const AcDbObjectId& id, AcDbEntity* entity) {
+        if (entity == nullptr) {
             if (!options.handles.empty())
-                throw ToolError("object " + DrawingQueries::HandleText(ids[i]) + " is not an entity");
-            continue;
+                throw ToolError("object " + DrawingQueries::HandleText(id) + " is not an entity");
+            return;
         }
         const std::wstring type = UpperCase(DrawingQueries::TypeName(entity));
-        const bool wanted = types.empty() || std::find(types.begin(), types.end(), type) != types.end();
-        if (wanted) {
+        if (types.empty() || std::find(types.begin(), types.end(), type) != types.end()) {
             entity->list();
             acutPrintf(L"\n");
         }
-        entity->close();
-    }
+    });
     return kExitOk;
 }
 
