@@ -46,6 +46,10 @@ TEST(CopyCommandTest, CopiesListLikeTheirOriginalsUnderNewHandles)
     const auto twice = RunQuarvo({"copy", drawing, "--handles", original, original});
     EXPECT_EQ(twice.exitCode, 2);
     EXPECT_EQ(twice.err, "quarvo: handle " + original + " is given twice\n");
+    // Handle 1 is the drawing's block table, not something a copy command selects.
+    const auto table = RunQuarvo({"copy", drawing, "--handles", "1"});
+    EXPECT_EQ(table.exitCode, 2);
+    EXPECT_EQ(table.err, "quarvo: object 1 is not an entity\n");
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include "DrawingQueries.h"
 #include "ToolError.h"
 #include "ToolSession.h"
+#include "dbmain.h"
 #include "headless/CloneCommand.h"
 #include "headless/TextCodec.h"
 
@@ -24,6 +25,11 @@ int RunCopy(const CopyOptions& options)
         const AcDbObjectId id = DrawingQueries::ObjectOfHandle(db, handle);
         if (ids.contains(id))
             throw ToolError("handle " + handle + " is given twice");
+        // The copy command copies what can be selected: entities.
+        AcDbEntity* entity = nullptr;
+        if (acdbOpenObject(entity, id, AcDb::kForRead) != Acad::eOk)
+            throw ToolError("object " + handle + " is not an entity");
+        entity->close();
         ids.append(id);
     }
 
