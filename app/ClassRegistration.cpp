@@ -5,6 +5,7 @@
 
 #include "geometry/QxPolylineBasedCurve.h"
 #include "lines/AecDivisionLine.h"
+#include "lines/AecOverlapLine.h"
 #include "openings/AecCircleOpening.h"
 #include "rxboiler.h"
 
@@ -33,20 +34,22 @@ const std::vector<ClassEntry>& RegistrationTable()
         // Steps 1-2: AecPanel, AecPanelLite.
         Entry<QxPolylineBasedCurve>(L"QxPolylineBasedCurve"),  // step 3
         Entry<AecDivisionLine>(L"AecDivisionLine"),            // step 4
-        // Steps 5-12: the other four lines, the layout boundary, OpeningGripData and the
+        Entry<AecOverlapLine>(L"AecOverlapLine"),              // step 5
+        // Steps 6-12: the other three lines, the layout boundary, OpeningGripData and the
         // rectangular and polygonal openings.
         Entry<AecCircleOpening>(L"AecCircleOpening"),  // step 13
     };
     return table;
 }
 
-// Tear-down order.
+// Tear-down order; the ordinals are places in it.
 const std::vector<ClassEntry>& TearDownTable()
 {
     static const std::vector<ClassEntry> table = {
         // AecPanel, AecPanelLite, AecRectOpening, OpeningGripData.
-        Entry<AecDivisionLine>(L"AecDivisionLine"),
-        // AecOverlapLine, AecStructuralLine, AecSteelMember, AecShouBianLine.
+        Entry<AecDivisionLine>(L"AecDivisionLine"),      // 5th
+        Entry<AecOverlapLine>(L"AecOverlapLine"),        // 6th
+        // AecStructuralLine, AecSteelMember, AecShouBianLine.
         Entry<QxPolylineBasedCurve>(L"QxPolylineBasedCurve"),
         // AecPolyOpening.
         Entry<AecCircleOpening>(L"AecCircleOpening"),

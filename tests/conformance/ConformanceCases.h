@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "lines/AecDivisionLine.h"
+#include "lines/AecOverlapLine.h"
 #include "openings/AecCircleOpening.h"
 
 template <typename T>
@@ -58,4 +59,28 @@ struct ConformanceCase<AecDivisionLine> {
     }
 };
 
-using ConformanceTypes = ::testing::Types<AecCircleOpening, AecDivisionLine>;
+template <>
+struct ConformanceCase<AecOverlapLine> {
+    using HostBase = AcDbCurve;
+    static AecOverlapLine* MakeSample()
+    {
+        auto* line = new AecOverlapLine();
+        line->SetPoints(AcGePoint3d(3200, 400, 0), AcGePoint3d(900, 1500, 0));  // drawn right to left
+        line->SetOverlapLeft(60);
+        line->SetOverlapRight(90);
+        line->SetOverlapDirection(RightOverLeft);
+        line->SetDrawOptions(
+            static_cast<OverlapDrawOptions>(kOverlapDrawCenterLine | kOverlapDrawBoundary | kOverlapDrawDirection));
+        line->SetJieDianBoundaryColorIndex(2);
+        line->SetShouBianJsonStr(L"{\"搭接\":\"两波\"}");
+        return line;
+    }
+    static void Edit(AecOverlapLine* line)
+    {
+        line->SetStartPoint(AcGePoint3d(3400, 300, 0));
+        line->SetOverlapDirection(LeftOverRight);
+        line->SetNodeBasicJsonStr(L"{\"编号\":\"DJ-2\"}");
+    }
+};
+
+using ConformanceTypes = ::testing::Types<AecCircleOpening, AecDivisionLine, AecOverlapLine>;
