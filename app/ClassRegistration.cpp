@@ -6,6 +6,7 @@
 #include "geometry/QxPolylineBasedCurve.h"
 #include "lines/AecDivisionLine.h"
 #include "lines/AecOverlapLine.h"
+#include "lines/AecStructuralLine.h"
 #include "openings/AecCircleOpening.h"
 #include "rxboiler.h"
 
@@ -35,8 +36,9 @@ const std::vector<ClassEntry>& RegistrationTable()
         Entry<QxPolylineBasedCurve>(L"QxPolylineBasedCurve"),  // step 3
         Entry<AecDivisionLine>(L"AecDivisionLine"),            // step 4
         Entry<AecOverlapLine>(L"AecOverlapLine"),              // step 5
-        // Steps 6-12: the other three lines, the layout boundary, OpeningGripData and the
-        // rectangular and polygonal openings.
+        Entry<AecStructuralLine>(L"AecStructuralLine"),        // step 6
+        // Steps 7-12: the steel member, the flashing line, the layout boundary,
+        // OpeningGripData and the rectangular and polygonal openings.
         Entry<AecCircleOpening>(L"AecCircleOpening"),  // step 13
     };
     return table;
@@ -49,7 +51,8 @@ const std::vector<ClassEntry>& TearDownTable()
         // AecPanel, AecPanelLite, AecRectOpening, OpeningGripData.
         Entry<AecDivisionLine>(L"AecDivisionLine"),      // 5th
         Entry<AecOverlapLine>(L"AecOverlapLine"),        // 6th
-        // AecStructuralLine, AecSteelMember, AecShouBianLine.
+        Entry<AecStructuralLine>(L"AecStructuralLine"),  // 7th
+        // AecSteelMember, AecShouBianLine.
         Entry<QxPolylineBasedCurve>(L"QxPolylineBasedCurve"),
         // AecPolyOpening.
         Entry<AecCircleOpening>(L"AecCircleOpening"),

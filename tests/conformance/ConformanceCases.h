@@ -7,6 +7,7 @@
 
 #include "lines/AecDivisionLine.h"
 #include "lines/AecOverlapLine.h"
+#include "lines/AecStructuralLine.h"
 #include "openings/AecCircleOpening.h"
 
 template <typename T>
@@ -83,4 +84,30 @@ struct ConformanceCase<AecOverlapLine> {
     }
 };
 
-using ConformanceTypes = ::testing::Types<AecCircleOpening, AecDivisionLine, AecOverlapLine>;
+template <>
+struct ConformanceCase<AecStructuralLine> {
+    using HostBase = AcDbCurve;
+    static AecStructuralLine* MakeSample()
+    {
+        auto* line = new AecStructuralLine();
+        line->SetPoints(AcGePoint3d(600, 2400, 0), AcGePoint3d(4200, 900, 0));
+        line->SetMemberType(kStructuralBeam);
+        line->SetMemberWidthLeft(80);
+        line->SetMemberWidthRight(70);
+        line->SetIndentLeft(55);
+        line->SetIndentRight(90);  // wider than the member on that side
+        line->SetDrawOptions(static_cast<StructuralDrawOptions>(
+            kStructuralDrawCenterLine | kStructuralDrawMemberBoundary | kStructuralDrawIndentLines));
+        line->SetShouBianLineColorIndex(6);
+        line->SetAccessoryJsonStr(L"[\"檩托\"]");
+        return line;
+    }
+    static void Edit(AecStructuralLine* line)
+    {
+        line->SetEndPoint(AcGePoint3d(4500, 1100, 0));
+        line->SetIndentLeft(40);
+        line->SetMemberType(kStructuralColumn);
+    }
+};
+
+using ConformanceTypes = ::testing::Types<AecCircleOpening, AecDivisionLine, AecOverlapLine, AecStructuralLine>;
