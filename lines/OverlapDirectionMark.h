@@ -7,7 +7,7 @@
 // strip's normal (the Y axis for a line without length).
 //
 // Its size follows the line, a tenth of the segment length, but never less than 100 or
-// more than 600 drawing units (millimetres): a short line still shows a mark that can be
+// more than 1000 drawing units (millimetres): a short line still shows a mark that can be
 // read on a plot of the whole layout, and a long one does not carry a sign metres high.
 #pragma once
 
@@ -18,7 +18,7 @@ class OverlapDirectionMark {
 public:
     static constexpr double kSizeFraction = 0.1;
     static constexpr double kMinimumSize = 100.0;
-    static constexpr double kMaximumSize = 600.0;
+    static constexpr double kMaximumSize = 1000.0;
     // The head's length and half width, and the gap between its tip and the centre line,
     // as fractions of the size.
     static constexpr double kHeadLengthFraction = 0.35;

@@ -257,7 +257,7 @@ TEST_F(AecOverlapLineTest, DrawOptionsPickTheParts)
 
 // The mark is an arrow on the covering side, pointing at the line: shaft from the head's
 // base out to the tail, head tip a tenth of the size short of the line. Its size is a
-// tenth of the line's length, held to 100..600; the head is 0.35 of it long and 0.3 wide.
+// tenth of the line's length, held to 100..1000; the head is 0.35 of it long and 0.3 wide.
 TEST_F(AecOverlapLineTest, TheDirectionMarkStandsOnTheCoveringSide)
 {
     struct Row {
@@ -279,8 +279,8 @@ TEST_F(AecOverlapLineTest, TheDirectionMarkStandsOnTheCoveringSide)
         {"along Y: the normal is -X", P(0, 0), P(0, 3000), LeftOverRight, P(300, 1500), P(135, 1500), P(30, 1500), 45},
         {"the shortest line: no smaller than 100", P(0, 0), P(5, 0), LeftOverRight, P(2.5, -100), P(2.5, -45),
          P(2.5, -10), 15},
-        {"a long line: no larger than 600", P(0, 0), P(100000, 0), RightOverLeft, P(50000, 600), P(50000, 270),
-         P(50000, 60), 90},
+        {"a long line: no larger than 1000", P(0, 0), P(100000, 0), RightOverLeft, P(50000, 1000), P(50000, 450),
+         P(50000, 100), 150},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
