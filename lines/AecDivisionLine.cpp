@@ -95,47 +95,7 @@ AecDivisionLine::~AecDivisionLine() = default;
 
 // ---- geometry
 
-AcGePoint3d AecDivisionLine::GetStartPoint() const
-{
-    assertReadEnabled();
-    return m_imp->startPoint;
-}
-
-Acad::ErrorStatus AecDivisionLine::SetStartPoint(const AcGePoint3d& pt)
-{
-    assertWriteEnabled(true, true);
-    if (!LayoutLineGeometry::IsFinite(pt))
-        return Acad::eInvalidInput;
-    LayoutLineGeometry::PlaceStart(m_imp->startPoint, m_imp->endPoint, pt);
-    m_imp->Refresh();
-    return Acad::eOk;
-}
-
-AcGePoint3d AecDivisionLine::GetEndPoint() const
-{
-    assertReadEnabled();
-    return m_imp->endPoint;
-}
-
-Acad::ErrorStatus AecDivisionLine::SetEndPoint(const AcGePoint3d& pt)
-{
-    assertWriteEnabled(true, true);
-    if (!LayoutLineGeometry::IsFinite(pt))
-        return Acad::eInvalidInput;
-    LayoutLineGeometry::PlaceEnd(m_imp->startPoint, m_imp->endPoint, pt);
-    m_imp->Refresh();
-    return Acad::eOk;
-}
-
-Acad::ErrorStatus AecDivisionLine::SetPoints(const AcGePoint3d& start, const AcGePoint3d& end)
-{
-    assertWriteEnabled(true, true);
-    if (!LayoutLineGeometry::IsFinite(start) || !LayoutLineGeometry::IsFinite(end))
-        return Acad::eInvalidInput;
-    LayoutLineGeometry::PlacePoints(m_imp->startPoint, m_imp->endPoint, start, end);
-    m_imp->Refresh();
-    return Acad::eOk;
-}
+QX_DEFINE_LINE_POINT_ACCESSORS(AecDivisionLine, Refresh)
 
 double AecDivisionLine::GetBulge() const
 {
@@ -153,37 +113,8 @@ Acad::ErrorStatus AecDivisionLine::SetBulge(double bulge)
     return Acad::eOk;
 }
 
-double AecDivisionLine::GetIndentLeft() const
-{
-    assertReadEnabled();
-    return m_imp->indentLeft;
-}
-
-Acad::ErrorStatus AecDivisionLine::SetIndentLeft(double indent)
-{
-    assertWriteEnabled(true, true);
-    if (!std::isfinite(indent))
-        return Acad::eInvalidInput;
-    m_imp->indentLeft = indent;
-    m_imp->Refresh();
-    return Acad::eOk;
-}
-
-double AecDivisionLine::GetIndentRight() const
-{
-    assertReadEnabled();
-    return m_imp->indentRight;
-}
-
-Acad::ErrorStatus AecDivisionLine::SetIndentRight(double indent)
-{
-    assertWriteEnabled(true, true);
-    if (!std::isfinite(indent))
-        return Acad::eInvalidInput;
-    m_imp->indentRight = indent;
-    m_imp->Refresh();
-    return Acad::eOk;
-}
+QX_DEFINE_LINE_LENGTH_ACCESSOR(AecDivisionLine, IndentLeft, indentLeft, Refresh)
+QX_DEFINE_LINE_LENGTH_ACCESSOR(AecDivisionLine, IndentRight, indentRight, Refresh)
 
 AcGePoint3d AecDivisionLine::GetBoundaryIdentifierPoint() const
 {

@@ -33,25 +33,7 @@ Acad::ErrorStatus AecDivisionLine::subTransformBy(const AcGeMatrix3d& xform)
     return Acad::eOk;
 }
 
-Acad::ErrorStatus AecDivisionLine::subGetStretchPoints(AcGePoint3dArray& stretchPoints) const
-{
-    assertReadEnabled();
-    stretchPoints.append(m_imp->startPoint);
-    stretchPoints.append(m_imp->endPoint);
-    return Acad::eOk;
-}
-
-Acad::ErrorStatus AecDivisionLine::subMoveStretchPointsAt(const AcDbIntArray& indices, const AcGeVector3d& offset)
-{
-    if (indices.isEmpty())
-        return QxPolylineBasedCurve::subMoveGripPointsAt(indices, offset);
-    assertWriteEnabled();
-    Imp& imp = *m_imp;
-    for (int index : indices)
-        if (LayoutLineGeometry::MoveStretchPoint(index, offset, imp.startPoint, imp.endPoint))
-            imp.Refresh();
-    return Acad::eOk;
-}
+QX_DEFINE_LINE_STRETCH(AecDivisionLine, Refresh)
 
 Acad::ErrorStatus AecDivisionLine::subGetGripPoints(AcDbGripDataPtrArray& grips, const double, const int,
                                                     const AcGeVector3d&, const int) const

@@ -79,41 +79,7 @@ Acad::ErrorStatus AecDivisionLine::subGetGeomExtents(AcDbExtents& extents) const
     return es;
 }
 
-Acad::ErrorStatus AecDivisionLine::subGetOsnapPoints(AcDb::OsnapMode osnapMode, Adesk::GsMarker gsSelectionMark,
-                                                     const AcGePoint3d& pickPoint, const AcGePoint3d& lastPoint,
-                                                     const AcGeMatrix3d& viewXform, AcGePoint3dArray& snapPoints,
-                                                     AcDbIntArray& geomIds) const
-{
-    assertReadEnabled();
-    return m_imp->ShownPolylines().GetOsnapPoints(osnapMode, gsSelectionMark, pickPoint, lastPoint, viewXform,
-                                                  snapPoints, geomIds);
-}
-
-Acad::ErrorStatus AecDivisionLine::subGetOsnapPoints(AcDb::OsnapMode osnapMode, Adesk::GsMarker gsSelectionMark,
-                                                     const AcGePoint3d& pickPoint, const AcGePoint3d& lastPoint,
-                                                     const AcGeMatrix3d& viewXform, AcGePoint3dArray& snapPoints,
-                                                     AcDbIntArray& geomIds, const AcGeMatrix3d& insertionMat) const
-{
-    assertReadEnabled();
-    return m_imp->ShownPolylines().GetOsnapPoints(osnapMode, gsSelectionMark, pickPoint, lastPoint, viewXform,
-                                                  snapPoints, geomIds, insertionMat);
-}
-
-Acad::ErrorStatus AecDivisionLine::subIntersectWith(const AcDbEntity* pEnt, AcDb::Intersect intType,
-                                                    AcGePoint3dArray& points, Adesk::GsMarker thisGsMarker,
-                                                    Adesk::GsMarker otherGsMarker) const
-{
-    assertReadEnabled();
-    return m_imp->ShownPolylines().IntersectWith(pEnt, intType, points, thisGsMarker, otherGsMarker);
-}
-
-Acad::ErrorStatus AecDivisionLine::subIntersectWith(const AcDbEntity* pEnt, AcDb::Intersect intType,
-                                                    const AcGePlane& projPlane, AcGePoint3dArray& points,
-                                                    Adesk::GsMarker thisGsMarker, Adesk::GsMarker otherGsMarker) const
-{
-    assertReadEnabled();
-    return m_imp->ShownPolylines().IntersectWith(pEnt, intType, projPlane, points, thisGsMarker, otherGsMarker);
-}
+QX_DEFINE_LINE_SNAPS_AND_INTERSECTIONS(AecDivisionLine)
 
 void AecDivisionLine::subList() const
 {

@@ -73,79 +73,10 @@ AecOverlapLine::~AecOverlapLine() = default;
 
 // ---- geometry
 
-AcGePoint3d AecOverlapLine::GetStartPoint() const
-{
-    assertReadEnabled();
-    return m_imp->startPoint;
-}
+QX_DEFINE_LINE_POINT_ACCESSORS(AecOverlapLine, Changed)
 
-Acad::ErrorStatus AecOverlapLine::SetStartPoint(const AcGePoint3d& pt)
-{
-    assertWriteEnabled(true, true);
-    if (!LayoutLineGeometry::IsFinite(pt))
-        return Acad::eInvalidInput;
-    LayoutLineGeometry::PlaceStart(m_imp->startPoint, m_imp->endPoint, pt);
-    m_imp->Changed();
-    return Acad::eOk;
-}
-
-AcGePoint3d AecOverlapLine::GetEndPoint() const
-{
-    assertReadEnabled();
-    return m_imp->endPoint;
-}
-
-Acad::ErrorStatus AecOverlapLine::SetEndPoint(const AcGePoint3d& pt)
-{
-    assertWriteEnabled(true, true);
-    if (!LayoutLineGeometry::IsFinite(pt))
-        return Acad::eInvalidInput;
-    LayoutLineGeometry::PlaceEnd(m_imp->startPoint, m_imp->endPoint, pt);
-    m_imp->Changed();
-    return Acad::eOk;
-}
-
-Acad::ErrorStatus AecOverlapLine::SetPoints(const AcGePoint3d& start, const AcGePoint3d& end)
-{
-    assertWriteEnabled(true, true);
-    if (!LayoutLineGeometry::IsFinite(start) || !LayoutLineGeometry::IsFinite(end))
-        return Acad::eInvalidInput;
-    LayoutLineGeometry::PlacePoints(m_imp->startPoint, m_imp->endPoint, start, end);
-    m_imp->Changed();
-    return Acad::eOk;
-}
-
-double AecOverlapLine::GetOverlapLeft() const
-{
-    assertReadEnabled();
-    return m_imp->overlapLeft;
-}
-
-Acad::ErrorStatus AecOverlapLine::SetOverlapLeft(double width)
-{
-    assertWriteEnabled(true, true);
-    if (!std::isfinite(width))
-        return Acad::eInvalidInput;
-    m_imp->overlapLeft = width;
-    m_imp->Changed();
-    return Acad::eOk;
-}
-
-double AecOverlapLine::GetOverlapRight() const
-{
-    assertReadEnabled();
-    return m_imp->overlapRight;
-}
-
-Acad::ErrorStatus AecOverlapLine::SetOverlapRight(double width)
-{
-    assertWriteEnabled(true, true);
-    if (!std::isfinite(width))
-        return Acad::eInvalidInput;
-    m_imp->overlapRight = width;
-    m_imp->Changed();
-    return Acad::eOk;
-}
+QX_DEFINE_LINE_LENGTH_ACCESSOR(AecOverlapLine, OverlapLeft, overlapLeft, Changed)
+QX_DEFINE_LINE_LENGTH_ACCESSOR(AecOverlapLine, OverlapRight, overlapRight, Changed)
 
 OverlapDirection AecOverlapLine::GetOverlapDirection() const
 {

@@ -8,7 +8,7 @@
 #include <memory>
 
 #include "AcString.h"
-#include "LineSettingsAccessors.h"
+#include "LayoutLineMembers.h"
 #include "data/DataNodeRoot.h"
 #include "geometry/QxPolylineBasedCurve.h"
 
@@ -37,14 +37,8 @@ public:
     AecOverlapLine(const AecOverlapLine&) = delete;
     AecOverlapLine& operator=(const AecOverlapLine&) = delete;
 
-    // The point setters keep the line between 5.0 and 512000.0 long by moving the point
-    // that was set (the end for SetPoints); eInvalidInput, with nothing changed, for
-    // non-finite coordinates.
-    AcGePoint3d GetStartPoint() const;
-    Acad::ErrorStatus SetStartPoint(const AcGePoint3d& pt);
-    AcGePoint3d GetEndPoint() const;
-    Acad::ErrorStatus SetEndPoint(const AcGePoint3d& pt);
-    Acad::ErrorStatus SetPoints(const AcGePoint3d& start, const AcGePoint3d& end);
+    // Start and end, the line held between 5.0 and 512000.0 long.
+    QX_DECLARE_LINE_POINT_ACCESSORS()
 
     // The strip's width on each side of start -> end. Any finite value (negative ones are
     // kept); eInvalidInput for non-finite ones.

@@ -124,47 +124,7 @@ AecStructuralLine::~AecStructuralLine() = default;
 
 // ---- geometry
 
-AcGePoint3d AecStructuralLine::GetStartPoint() const
-{
-    assertReadEnabled();
-    return m_imp->startPoint;
-}
-
-Acad::ErrorStatus AecStructuralLine::SetStartPoint(const AcGePoint3d& pt)
-{
-    assertWriteEnabled(true, true);
-    if (!LayoutLineGeometry::IsFinite(pt))
-        return Acad::eInvalidInput;
-    LayoutLineGeometry::PlaceStart(m_imp->startPoint, m_imp->endPoint, pt);
-    m_imp->Changed();
-    return Acad::eOk;
-}
-
-AcGePoint3d AecStructuralLine::GetEndPoint() const
-{
-    assertReadEnabled();
-    return m_imp->endPoint;
-}
-
-Acad::ErrorStatus AecStructuralLine::SetEndPoint(const AcGePoint3d& pt)
-{
-    assertWriteEnabled(true, true);
-    if (!LayoutLineGeometry::IsFinite(pt))
-        return Acad::eInvalidInput;
-    LayoutLineGeometry::PlaceEnd(m_imp->startPoint, m_imp->endPoint, pt);
-    m_imp->Changed();
-    return Acad::eOk;
-}
-
-Acad::ErrorStatus AecStructuralLine::SetPoints(const AcGePoint3d& start, const AcGePoint3d& end)
-{
-    assertWriteEnabled(true, true);
-    if (!LayoutLineGeometry::IsFinite(start) || !LayoutLineGeometry::IsFinite(end))
-        return Acad::eInvalidInput;
-    LayoutLineGeometry::PlacePoints(m_imp->startPoint, m_imp->endPoint, start, end);
-    m_imp->Changed();
-    return Acad::eOk;
-}
+QX_DEFINE_LINE_POINT_ACCESSORS(AecStructuralLine, Changed)
 
 StructuralMemberType AecStructuralLine::GetMemberType() const
 {
@@ -179,29 +139,10 @@ Acad::ErrorStatus AecStructuralLine::SetMemberType(StructuralMemberType type)
     return Acad::eOk;
 }
 
-// Widths and indents: any finite value, then every derived polyline is stale.
-#define QX_STRUCTURAL_LENGTH(NAME, FIELD)                                                                              \
-    double AecStructuralLine::Get##NAME() const                                                                        \
-    {                                                                                                                  \
-        assertReadEnabled();                                                                                           \
-        return m_imp->FIELD;                                                                                           \
-    }                                                                                                                  \
-    Acad::ErrorStatus AecStructuralLine::Set##NAME(double value)                                                       \
-    {                                                                                                                  \
-        assertWriteEnabled(true, true);                                                                                \
-        if (!std::isfinite(value))                                                                                     \
-            return Acad::eInvalidInput;                                                                                \
-        m_imp->FIELD = value;                                                                                          \
-        m_imp->Changed();                                                                                              \
-        return Acad::eOk;                                                                                              \
-    }
-
-QX_STRUCTURAL_LENGTH(MemberWidthLeft, memberWidthLeft)
-QX_STRUCTURAL_LENGTH(MemberWidthRight, memberWidthRight)
-QX_STRUCTURAL_LENGTH(IndentLeft, indentLeft)
-QX_STRUCTURAL_LENGTH(IndentRight, indentRight)
-
-#undef QX_STRUCTURAL_LENGTH
+QX_DEFINE_LINE_LENGTH_ACCESSOR(AecStructuralLine, MemberWidthLeft, memberWidthLeft, Changed)
+QX_DEFINE_LINE_LENGTH_ACCESSOR(AecStructuralLine, MemberWidthRight, memberWidthRight, Changed)
+QX_DEFINE_LINE_LENGTH_ACCESSOR(AecStructuralLine, IndentLeft, indentLeft, Changed)
+QX_DEFINE_LINE_LENGTH_ACCESSOR(AecStructuralLine, IndentRight, indentRight, Changed)
 
 // ---- display settings
 

@@ -9,7 +9,7 @@
 #include <memory>
 
 #include "AcString.h"
-#include "LineSettingsAccessors.h"
+#include "LayoutLineMembers.h"
 #include "data/DataNodeRoot.h"
 #include "geometry/QxPolylineBasedCurve.h"
 
@@ -38,14 +38,8 @@ public:
     AecStructuralLine(const AecStructuralLine&) = delete;
     AecStructuralLine& operator=(const AecStructuralLine&) = delete;
 
-    // The point setters keep the line between 5.0 and 512000.0 long by moving the point
-    // that was set (the end for SetPoints); eInvalidInput, with nothing changed, for
-    // non-finite coordinates.
-    AcGePoint3d GetStartPoint() const;
-    Acad::ErrorStatus SetStartPoint(const AcGePoint3d& pt);
-    AcGePoint3d GetEndPoint() const;
-    Acad::ErrorStatus SetEndPoint(const AcGePoint3d& pt);
-    Acad::ErrorStatus SetPoints(const AcGePoint3d& start, const AcGePoint3d& end);
+    // Start and end, the line held between 5.0 and 512000.0 long.
+    QX_DECLARE_LINE_POINT_ACCESSORS()
 
     // Stored as given.
     StructuralMemberType GetMemberType() const;

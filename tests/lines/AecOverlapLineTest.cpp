@@ -7,21 +7,16 @@
 #include <memory>
 #include <vector>
 
+#include "LineTestSupport.h"
 #include "ModuleTestSupport.h"
-#include "Qx/LinetypeUtil.h"
 #include "dbpl.h"
-#include "dbsymtb.h"
 #include "headless/TextCodec.h"
 #include "lines/AecOverlapLine.h"
 
 namespace {
 
 using headless::PrimitiveKind;
-
-AcGePoint3d P(double x, double y)
-{
-    return AcGePoint3d(x, y, 0.0);
-}
+using namespace linetest;
 
 OverlapDrawOptions Options(int bits)
 {
@@ -33,28 +28,6 @@ std::unique_ptr<AecOverlapLine> MakeLine(const AcGePoint3d& start, const AcGePoi
     std::unique_ptr<AecOverlapLine> line(new AecOverlapLine());
     EXPECT_EQ(line->SetPoints(start, end), Acad::eOk);
     return line;
-}
-
-std::vector<AcGePoint3d> Vertices(const AcDbPolyline& polyline)
-{
-    std::vector<AcGePoint3d> points;
-    for (unsigned int i = 0; i < polyline.numVerts(); ++i) {
-        AcGePoint2d p;
-        EXPECT_EQ(polyline.getPointAt(i, p), Acad::eOk);
-        points.emplace_back(p.x, p.y, 0.0);
-    }
-    return points;
-}
-
-::testing::AssertionResult SamePoints(const std::vector<AcGePoint3d>& actual, const std::vector<AcGePoint3d>& expected,
-                                      double tol = 1e-9)
-{
-    if (actual.size() != expected.size())
-        return ::testing::AssertionFailure() << actual.size() << " points against " << expected.size();
-    for (std::size_t i = 0; i < actual.size(); ++i)
-        if (actual[i].distanceTo(expected[i]) > tol)
-            return ::testing::AssertionFailure() << "point " << i << ": " << actual[i] << " instead of " << expected[i];
-    return ::testing::AssertionSuccess();
 }
 
 std::vector<PrimitiveKind> Kinds(const std::vector<headless::RecordedPrimitive>& drawn)
@@ -69,27 +42,8 @@ class AecOverlapLineTest : public ::testing::Test {
 protected:
     void SetUp() override
     {
-        linesLayer = AddLayer(L"LINES");
-        boundaryLayer = AddLayer(L"JD边界");
-    }
-
-    AcDbObjectId AddLayer(const ACHAR* name)
-    {
-        AcDbLayerTable* layers = nullptr;
-        EXPECT_EQ(working.db()->getLayerTable(layers, AcDb::kForWrite), Acad::eOk);
-        auto* record = new AcDbLayerTableRecord();
-        record->setName(name);
-        AcDbObjectId id;
-        EXPECT_EQ(layers->add(id, record), Acad::eOk);
-        record->close();
-        layers->close();
-        return id;
-    }
-
-    AcDbObjectId LoadDashed()
-    {
-        EXPECT_EQ(Qx::LinetypeUtil::LoadSystemLinetype(L"DASHED", working.db()), Acad::eOk);
-        return Qx::LinetypeUtil::GetLinetype(L"DASHED", working.db());
+        linesLayer = AddLayer(working.db(), L"LINES");
+        boundaryLayer = AddLayer(working.db(), L"JD边界");
     }
 
     // A line from (0, 0) to (100, 0), left 10 and right 20, in model space on layer
@@ -183,7 +137,7 @@ TEST_F(AecOverlapLineTest, ListOutput)
 // The strip of the line (0,0)-(100,0) has P0 (0,-10), P1 (0,20), P2 (100,20), P3 (100,-10).
 TEST_F(AecOverlapLineTest, TheCoveredEdgeIsDashedAndDrawnFirst)
 {
-    const AcDbObjectId dashed = LoadDashed();
+    const AcDbObjectId dashed = LoadDashed(working.db());
     ASSERT_FALSE(dashed.isNull());
     const AcDbObjectId continuous = working.db()->continuousLinetype();
     const std::vector<AcGePoint3d> minusEdge = {P(0, -10), P(100, -10)};
@@ -231,7 +185,7 @@ TEST_F(AecOverlapLineTest, WithoutADashedLinetypeTheCoveredEdgeKeepsTheTraitsLin
 
 TEST_F(AecOverlapLineTest, DrawOptionsPickTheParts)
 {
-    LoadDashed();
+    LoadDashed(working.db());
     const auto pline = PrimitiveKind::kPline;
     const auto polyline = PrimitiveKind::kPolyline;
     const auto polygon = PrimitiveKind::kPolygon;

@@ -7,54 +7,22 @@
 #include <memory>
 #include <vector>
 
+#include "LineTestSupport.h"
 #include "ModuleTestSupport.h"
-#include "Qx/LinetypeUtil.h"
 #include "dbpl.h"
-#include "dbsymtb.h"
 #include "headless/TextCodec.h"
 #include "lines/AecStructuralLine.h"
 
 namespace {
 
 using headless::PrimitiveKind;
-
-AcGePoint3d P(double x, double y)
-{
-    return AcGePoint3d(x, y, 0.0);
-}
+using namespace linetest;
 
 std::unique_ptr<AecStructuralLine> MakeLine(const AcGePoint3d& start, const AcGePoint3d& end)
 {
     std::unique_ptr<AecStructuralLine> line(new AecStructuralLine());
     EXPECT_EQ(line->SetPoints(start, end), Acad::eOk);
     return line;
-}
-
-std::vector<AcGePoint3d> Vertices(const AcDbPolyline& polyline)
-{
-    std::vector<AcGePoint3d> points;
-    for (unsigned int i = 0; i < polyline.numVerts(); ++i) {
-        AcGePoint2d p;
-        EXPECT_EQ(polyline.getPointAt(i, p), Acad::eOk);
-        points.emplace_back(p.x, p.y, 0.0);
-    }
-    return points;
-}
-
-::testing::AssertionResult SamePoints(const std::vector<AcGePoint3d>& actual, const std::vector<AcGePoint3d>& expected)
-{
-    if (actual.size() != expected.size())
-        return ::testing::AssertionFailure() << actual.size() << " points against " << expected.size();
-    for (std::size_t i = 0; i < actual.size(); ++i)
-        if (actual[i].distanceTo(expected[i]) > 1e-9)
-            return ::testing::AssertionFailure() << "point " << i << ": " << actual[i] << " instead of " << expected[i];
-    return ::testing::AssertionSuccess();
-}
-
-std::vector<AcGePoint3d> OwnedVertices(AcDbPolyline* polyline)
-{
-    std::unique_ptr<AcDbPolyline> owned(polyline);
-    return Vertices(*owned);
 }
 
 bool IsClosedPline(const headless::RecordedPrimitive& p)
@@ -66,28 +34,9 @@ class AecStructuralLineTest : public ::testing::Test {
 protected:
     void SetUp() override
     {
-        linesLayer = AddLayer(L"LINES");
-        boundaryLayer = AddLayer(L"JD边界");
-        shouBianLayer = AddLayer(L"SB线");
-    }
-
-    AcDbObjectId AddLayer(const ACHAR* name)
-    {
-        AcDbLayerTable* layers = nullptr;
-        EXPECT_EQ(working.db()->getLayerTable(layers, AcDb::kForWrite), Acad::eOk);
-        auto* record = new AcDbLayerTableRecord();
-        record->setName(name);
-        AcDbObjectId id;
-        EXPECT_EQ(layers->add(id, record), Acad::eOk);
-        record->close();
-        layers->close();
-        return id;
-    }
-
-    AcDbObjectId LoadDashed()
-    {
-        EXPECT_EQ(Qx::LinetypeUtil::LoadSystemLinetype(L"DASHED", working.db()), Acad::eOk);
-        return Qx::LinetypeUtil::GetLinetype(L"DASHED", working.db());
+        linesLayer = AddLayer(working.db(), L"LINES");
+        boundaryLayer = AddLayer(working.db(), L"JD边界");
+        shouBianLayer = AddLayer(working.db(), L"SB线");
     }
 
     // A default line from (0, 0) to (1000, 0) in model space on layer "LINES" with colour 5
@@ -191,7 +140,7 @@ TEST_F(AecStructuralLineTest, ListOutput)
 // Defaults: member widths 75 and indents 50 on both sides of (0,0)-(1000,0).
 TEST_F(AecStructuralLineTest, DrawsA150WideOutlineAndDashedIndentLinesAt50)
 {
-    const AcDbObjectId dashed = LoadDashed();
+    const AcDbObjectId dashed = LoadDashed(working.db());
     AecStructuralLine* line = AddLine(7, L"SB线", 4);
     auto drawn = qxtest::Draw(line);
     ASSERT_EQ(drawn.size(), 4u);
@@ -259,8 +208,8 @@ TEST_F(AecStructuralLineTest, IndentLinesWiderThanTheMemberLieOutsideTheOutline)
         SCOPED_TRACE(row.name);
         auto line = MakeLine(row.start, row.end);
         line->SetIndentLeft(100);
-        EXPECT_TRUE(SamePoints(OwnedVertices(line->CreateIndentLineLeft()), row.left));
-        EXPECT_TRUE(SamePoints(OwnedVertices(line->CreateIndentLineRight()), row.right));
+        EXPECT_TRUE(SamePoints(TakeVertices(line->CreateIndentLineLeft()), row.left));
+        EXPECT_TRUE(SamePoints(TakeVertices(line->CreateIndentLineRight()), row.right));
         // The outline stays at 75; the extents take in the indent lines too.
         AcDbExtents extents;
         ASSERT_EQ(line->getGeomExtents(extents), Acad::eOk);
@@ -270,13 +219,13 @@ TEST_F(AecStructuralLineTest, IndentLinesWiderThanTheMemberLieOutsideTheOutline)
 
     // A line without length has none.
     AecStructuralLine empty;
-    EXPECT_TRUE(OwnedVertices(empty.CreateIndentLineLeft()).empty());
-    EXPECT_TRUE(OwnedVertices(empty.CreateIndentLineRight()).empty());
+    EXPECT_TRUE(TakeVertices(empty.CreateIndentLineLeft()).empty());
+    EXPECT_TRUE(TakeVertices(empty.CreateIndentLineRight()).empty());
 }
 
 TEST_F(AecStructuralLineTest, ExplodeHandsOutWhatIsDrawnInTheSameStyles)
 {
-    const AcDbObjectId dashed = LoadDashed();
+    const AcDbObjectId dashed = LoadDashed(working.db());
     AecStructuralLine* line = AddLine(7, L"SB线", 4);
     AcDbVoidPtrArray pieces;
     ASSERT_EQ(line->explode(pieces), Acad::eOk);

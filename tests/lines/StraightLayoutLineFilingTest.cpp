@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "LineTestSupport.h"
 #include "ModuleTestSupport.h"
 #include "headless/RecordingDwgFiler.h"
 #include "lines/AecOverlapLine.h"
@@ -13,10 +14,7 @@
 
 namespace {
 
-AcGePoint3d P(double x, double y)
-{
-    return AcGePoint3d(x, y, 0.0);
-}
+using linetest::P;
 
 // An empty data tree, as the record's last item.
 const std::vector<std::string> kEmptyTree = {"writeInt32 -1001", "writeInt32 1", "writeInt32 0", "writeInt32 0"};

@@ -8,6 +8,7 @@
 #include <memory>
 #include <vector>
 
+#include "LineTestSupport.h"
 #include "ModuleTestSupport.h"
 #include "dbents.h"
 #include "dbpl.h"
@@ -17,12 +18,9 @@
 
 namespace {
 
-const double kPi = 3.14159265358979323846;
+using namespace linetest;
 
-AcGePoint3d P(double x, double y)
-{
-    return AcGePoint3d(x, y, 0.0);
-}
+const double kPi = 3.14159265358979323846;
 
 // How each line names its widths, its outline and the parts it draws.
 template <typename T>
@@ -55,42 +53,6 @@ struct StripLine<AecStructuralLine> {
     static void ShowCentreLine(AecStructuralLine& line) { line.SetDrawOptions(kStructuralDrawCenterLine); }
     static void ShowOutline(AecStructuralLine& line) { line.SetDrawOptions(kStructuralDrawMemberBoundary); }
 };
-
-std::vector<AcGePoint3d> Vertices(const AcDbPolyline& polyline)
-{
-    std::vector<AcGePoint3d> points;
-    for (unsigned int i = 0; i < polyline.numVerts(); ++i) {
-        AcGePoint2d p;
-        EXPECT_EQ(polyline.getPointAt(i, p), Acad::eOk);
-        points.emplace_back(p.x, p.y, 0.0);
-    }
-    return points;
-}
-
-::testing::AssertionResult SameCorners(const std::vector<AcGePoint3d>& actual, const std::vector<AcGePoint3d>& expected)
-{
-    if (actual.size() != expected.size())
-        return ::testing::AssertionFailure() << actual.size() << " corners against " << expected.size();
-    for (std::size_t i = 0; i < actual.size(); ++i)
-        if (actual[i].distanceTo(expected[i]) > 1e-9)
-            return ::testing::AssertionFailure()
-                << "corner " << i << ": " << actual[i] << " instead of " << expected[i];
-    return ::testing::AssertionSuccess();
-}
-
-::testing::AssertionResult SameCornerSet(std::vector<AcGePoint3d> actual, const std::vector<AcGePoint3d>& expected)
-{
-    if (actual.size() != expected.size())
-        return ::testing::AssertionFailure() << actual.size() << " corners against " << expected.size();
-    for (const AcGePoint3d& e : expected) {
-        auto found =
-            std::find_if(actual.begin(), actual.end(), [&](const AcGePoint3d& a) { return a.distanceTo(e) < 1e-9; });
-        if (found == actual.end())
-            return ::testing::AssertionFailure() << e << " is not a corner";
-        actual.erase(found);
-    }
-    return ::testing::AssertionSuccess();
-}
 
 template <typename T>
 class StraightLayoutLineTest : public ::testing::Test {
@@ -125,7 +87,7 @@ protected:
         std::unique_ptr<AcDbPolyline> kept(AcDbPolyline::cast(static_cast<AcRxObject*>(pieces[0])));
         if (kept == nullptr)
             return ::testing::AssertionFailure() << "explode gave no polyline";
-        return SameCorners(Vertices(*kept), Corners(line));
+        return SamePoints(Vertices(*kept), Corners(line));
     }
 
     // Start and end as the host curve sees them agree with the line's own.
@@ -167,7 +129,7 @@ TYPED_TEST(StraightLayoutLineTest, StripCornersKeepLeftAndRightRelativeToStartTo
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
         auto line = this->MakeLine(row.start, row.end);
-        EXPECT_TRUE(SameCorners(this->Corners(*line), row.corners));
+        EXPECT_TRUE(SamePoints(this->Corners(*line), row.corners));
     }
 
     // A line without length (only a file can make one) has no outline.
@@ -217,7 +179,7 @@ TYPED_TEST(StraightLayoutLineTest, TransformationScalesAndAMirrorSwapsTheWidths)
             q.z = 0;
             image.push_back(q);
         }
-        EXPECT_TRUE(SameCornerSet(this->Corners(*line), image));
+        EXPECT_TRUE(SamePointSet(this->Corners(*line), image));
         EXPECT_TRUE(this->KeptOutlineIsCurrent(*line));
     }
 }
@@ -321,7 +283,7 @@ TYPED_TEST(StraightLayoutLineTest, CurveEditsComeBackIntoStartAndEnd)
     ASSERT_EQ(line->reverseCurve(), Acad::eOk);
     EXPECT_TRUE(qxtest::Near(line->GetStartPoint(), P(350, 100), 1e-9));
     EXPECT_TRUE(qxtest::Near(line->GetEndPoint(), P(100, 100), 1e-9));
-    EXPECT_TRUE(SameCornerSet(this->Corners(*line), {P(100, 80), P(100, 110), P(350, 110), P(350, 80)}));
+    EXPECT_TRUE(SamePointSet(this->Corners(*line), {P(100, 80), P(100, 110), P(350, 110), P(350, 80)}));
     this->ExpectCurveEndsAgree(*line);
     EXPECT_TRUE(this->KeptOutlineIsCurrent(*line));
 }
