@@ -5,6 +5,8 @@
 
 #include "geometry/QxPolylineBasedCurve.h"
 #include "lines/AecDivisionLine.h"
+#include "lines/AecOverlapLine.h"
+#include "lines/AecStructuralLine.h"
 #include "openings/AecCircleOpening.h"
 #include "rxboiler.h"
 
@@ -33,20 +35,24 @@ const std::vector<ClassEntry>& RegistrationTable()
         // Steps 1-2: AecPanel, AecPanelLite.
         Entry<QxPolylineBasedCurve>(L"QxPolylineBasedCurve"),  // step 3
         Entry<AecDivisionLine>(L"AecDivisionLine"),            // step 4
-        // Steps 5-12: the other four lines, the layout boundary, OpeningGripData and the
-        // rectangular and polygonal openings.
+        Entry<AecOverlapLine>(L"AecOverlapLine"),              // step 5
+        Entry<AecStructuralLine>(L"AecStructuralLine"),        // step 6
+        // Steps 7-12: the steel member, the flashing line, the layout boundary,
+        // OpeningGripData and the rectangular and polygonal openings.
         Entry<AecCircleOpening>(L"AecCircleOpening"),  // step 13
     };
     return table;
 }
 
-// Tear-down order.
+// Tear-down order; the ordinals are places in it.
 const std::vector<ClassEntry>& TearDownTable()
 {
     static const std::vector<ClassEntry> table = {
         // AecPanel, AecPanelLite, AecRectOpening, OpeningGripData.
-        Entry<AecDivisionLine>(L"AecDivisionLine"),
-        // AecOverlapLine, AecStructuralLine, AecSteelMember, AecShouBianLine.
+        Entry<AecDivisionLine>(L"AecDivisionLine"),      // 5th
+        Entry<AecOverlapLine>(L"AecOverlapLine"),        // 6th
+        Entry<AecStructuralLine>(L"AecStructuralLine"),  // 7th
+        // AecSteelMember, AecShouBianLine.
         Entry<QxPolylineBasedCurve>(L"QxPolylineBasedCurve"),
         // AecPolyOpening.
         Entry<AecCircleOpening>(L"AecCircleOpening"),

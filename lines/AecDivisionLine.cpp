@@ -6,38 +6,18 @@
 
 #include "AecDivisionLineImp.h"
 #include "DivisionLineGeometry.h"
+#include "LayoutLineGeometry.h"
+#include "Qx/PolylineUtil.h"
 #include "app/ModuleClassFlags.h"
-#include "dbmain.h"
-#include "dbsymtb.h"
 
 ACRX_DXF_DEFINE_MEMBERS(AecDivisionLine, QxPolylineBasedCurve, Quarvo::kClassDwgVersion,
                         Quarvo::kClassMaintenanceVersion, Quarvo::kClassProxyFlags, QX_DIVISION_LINE, QX_AEC_DB_APP)
-
-namespace {
-
-// The host's value for "no width of its own" on a polyline vertex.
-constexpr double kDefaultWidth = -1.0;
-// Colour indices outside this range mean the entity's own colour.
-constexpr int kLowestColorIndex = 0;
-constexpr int kHighestColorIndex = 256;
-
-bool IsFinite(const AcGePoint3d& p)
-{
-    return std::isfinite(p.x) && std::isfinite(p.y) && std::isfinite(p.z);
-}
-
-int ClampColorIndex(int index)
-{
-    return index < kLowestColorIndex || index > kHighestColorIndex ? 0 : index;
-}
-
-}  // namespace
 
 // ---- implementation object
 
 AcGePoint3d AecDivisionLine::Imp::ChordMidpoint() const
 {
-    return AcGePoint3d((startPoint.x + endPoint.x) * 0.5, (startPoint.y + endPoint.y) * 0.5, 0.0);
+    return LayoutLineGeometry::Midpoint(startPoint, endPoint);
 }
 
 AcGePoint3d AecDivisionLine::Imp::EffectiveIdentifierPoint() const
@@ -80,52 +60,31 @@ void AecDivisionLine::Imp::EnsurePolylines()
 
 AcDbPolyline* AecDivisionLine::Imp::BuildCenterPolyline() const
 {
-    auto* polyline = new AcDbPolyline(2);
-    polyline->addVertexAt(0, AcGePoint2d(startPoint.x, startPoint.y), bulge, kDefaultWidth, kDefaultWidth);
-    polyline->addVertexAt(1, AcGePoint2d(endPoint.x, endPoint.y), 0.0, kDefaultWidth, kDefaultWidth);
-    return polyline;
+    return Qx::PolylineUtil::CreateSegment(startPoint, endPoint, bulge);
 }
 
 AcDbPolyline* AecDivisionLine::Imp::BuildBoundaryPolyline() const
 {
     const DivisionLineGeometry::Outline outline =
         DivisionLineGeometry::ComputeOutline(startPoint, endPoint, bulge, indentLeft, indentRight);
-    auto* polyline = new AcDbPolyline(4);
-    if (outline.corners.size() >= 4) {
-        for (unsigned int i = 0; i < 4; ++i) {
-            const AcGePoint3d& corner = outline.corners[i];
-            polyline->addVertexAt(i, AcGePoint2d(corner.x, corner.y), 0.0, kDefaultWidth, kDefaultWidth);
-        }
-        if (std::fabs(outline.bulge) >= DivisionLineGeometry::kStraightBulge) {
-            polyline->setBulgeAt(1, outline.bulge);
-            polyline->setBulgeAt(3, -outline.bulge);
-        }
-    }
-    polyline->setClosed(Adesk::kTrue);
-    return polyline;
+    if (outline.corners.size() < 4)
+        return LayoutLineGeometry::CreatePolyline({}, true);
+    std::vector<double> bulges;
+    // The side P1-P2 runs round with the centre line; the side P3-P0 comes back the other way.
+    if (std::fabs(outline.bulge) >= DivisionLineGeometry::kStraightBulge)
+        bulges = {0.0, outline.bulge, 0.0, -outline.bulge};
+    return LayoutLineGeometry::CreatePolyline(outline.corners, true, bulges);
 }
 
-const DivisionLineGripRecord* AecDivisionLine::Imp::FindGripRecord(const void* appData) const
+LinePolylines AecDivisionLine::Imp::ShownPolylines()
 {
-    for (const auto& record : gripRecords)
-        if (record.get() == appData)
-            return record.get();
-    return nullptr;
-}
-
-AcDbObjectId AecDivisionLine::Imp::FindLayer(const AcString& name) const
-{
-    AcDbDatabase* db = owner->database();
-    if (name.isEmpty() || db == nullptr)
-        return AcDbObjectId::kNull;
-    AcDbLayerTable* layers = nullptr;
-    if (db->getLayerTable(layers, AcDb::kForRead) != Acad::eOk || layers == nullptr)
-        return AcDbObjectId::kNull;
-    AcDbObjectId id;
-    if (layers->getAt(name.kwszPtr(), id) != Acad::eOk)
-        id = AcDbObjectId::kNull;
-    layers->close();
-    return id;
+    EnsurePolylines();
+    LinePolylines shown;
+    if ((drawOptions & kDrawCenterLine) == kDrawCenterLine)
+        shown.Add(centerPolyline);
+    if ((drawOptions & kDrawBoundary) == kDrawBoundary)
+        shown.Add(boundaryPolyline);
+    return shown;
 }
 
 // ---- construction
@@ -136,55 +95,7 @@ AecDivisionLine::~AecDivisionLine() = default;
 
 // ---- geometry
 
-AcGePoint3d AecDivisionLine::GetStartPoint() const
-{
-    assertReadEnabled();
-    return m_imp->startPoint;
-}
-
-Acad::ErrorStatus AecDivisionLine::SetStartPoint(const AcGePoint3d& pt)
-{
-    assertWriteEnabled(true, true);
-    if (!IsFinite(pt))
-        return Acad::eInvalidInput;
-    const AcGeVector3d previous = m_imp->Direction();
-    m_imp->startPoint = pt;
-    DivisionLineGeometry::ApplyLengthRule(m_imp->startPoint, m_imp->endPoint, -previous);
-    m_imp->Refresh();
-    return Acad::eOk;
-}
-
-AcGePoint3d AecDivisionLine::GetEndPoint() const
-{
-    assertReadEnabled();
-    return m_imp->endPoint;
-}
-
-Acad::ErrorStatus AecDivisionLine::SetEndPoint(const AcGePoint3d& pt)
-{
-    assertWriteEnabled(true, true);
-    if (!IsFinite(pt))
-        return Acad::eInvalidInput;
-    const AcGeVector3d previous = m_imp->Direction();
-    m_imp->endPoint = pt;
-    DivisionLineGeometry::ApplyLengthRule(m_imp->endPoint, m_imp->startPoint, previous);
-    m_imp->Refresh();
-    return Acad::eOk;
-}
-
-Acad::ErrorStatus AecDivisionLine::SetPoints(const AcGePoint3d& start, const AcGePoint3d& end)
-{
-    assertWriteEnabled(true, true);
-    if (!IsFinite(start) || !IsFinite(end))
-        return Acad::eInvalidInput;
-    const AcGeVector3d previous = m_imp->Direction();
-    m_imp->startPoint = start;
-    m_imp->startPoint.z = 0.0;
-    m_imp->endPoint = end;
-    DivisionLineGeometry::ApplyLengthRule(m_imp->endPoint, m_imp->startPoint, previous);
-    m_imp->Refresh();
-    return Acad::eOk;
-}
+QX_DEFINE_LINE_POINT_ACCESSORS(AecDivisionLine, Refresh)
 
 double AecDivisionLine::GetBulge() const
 {
@@ -202,37 +113,8 @@ Acad::ErrorStatus AecDivisionLine::SetBulge(double bulge)
     return Acad::eOk;
 }
 
-double AecDivisionLine::GetIndentLeft() const
-{
-    assertReadEnabled();
-    return m_imp->indentLeft;
-}
-
-Acad::ErrorStatus AecDivisionLine::SetIndentLeft(double indent)
-{
-    assertWriteEnabled(true, true);
-    if (!std::isfinite(indent))
-        return Acad::eInvalidInput;
-    m_imp->indentLeft = indent;
-    m_imp->Refresh();
-    return Acad::eOk;
-}
-
-double AecDivisionLine::GetIndentRight() const
-{
-    assertReadEnabled();
-    return m_imp->indentRight;
-}
-
-Acad::ErrorStatus AecDivisionLine::SetIndentRight(double indent)
-{
-    assertWriteEnabled(true, true);
-    if (!std::isfinite(indent))
-        return Acad::eInvalidInput;
-    m_imp->indentRight = indent;
-    m_imp->Refresh();
-    return Acad::eOk;
-}
+QX_DEFINE_LINE_LENGTH_ACCESSOR(AecDivisionLine, IndentLeft, indentLeft, Refresh)
+QX_DEFINE_LINE_LENGTH_ACCESSOR(AecDivisionLine, IndentRight, indentRight, Refresh)
 
 AcGePoint3d AecDivisionLine::GetBoundaryIdentifierPoint() const
 {
@@ -243,7 +125,7 @@ AcGePoint3d AecDivisionLine::GetBoundaryIdentifierPoint() const
 Acad::ErrorStatus AecDivisionLine::SetBoundaryIdentifierPoint(const AcGePoint3d& pt)
 {
     assertWriteEnabled(true, true);
-    if (!IsFinite(pt))
+    if (!LayoutLineGeometry::IsFinite(pt))
         return Acad::eInvalidInput;
     m_imp->boundaryIdentifierPoint = pt;
     return Acad::eOk;
@@ -271,52 +153,7 @@ bool AecDivisionLine::IsDrawOptionEnabled(DrawOptions option) const
     return (m_imp->drawOptions & option) == option;
 }
 
-// Layer names change what the line draws on; the JSON blocks change nothing drawn.
-#define QX_STRING_PROPERTY(NAME, FIELD, DRAWN)                       \
-    AcString AecDivisionLine::Get##NAME() const                      \
-    {                                                                \
-        assertReadEnabled();                                         \
-        return m_imp->FIELD;                                         \
-    }                                                                \
-    Acad::ErrorStatus AecDivisionLine::Set##NAME(const AcString& value) \
-    {                                                                \
-        assertWriteEnabled(true, true);                              \
-        m_imp->FIELD = value;                                        \
-        if (DRAWN)                                                   \
-            recordGraphicsModified();                                \
-        return Acad::eOk;                                            \
-    }
-
-QX_STRING_PROPERTY(JieDianTextLayerName, jieDianTextLayerName, true)
-QX_STRING_PROPERTY(JieDianBoundaryLayerName, jieDianBoundaryLayerName, true)
-QX_STRING_PROPERTY(ShouBianTextLayerName, shouBianTextLayerName, true)
-QX_STRING_PROPERTY(ShouBianLineLayerName, shouBianLineLayerName, true)
-QX_STRING_PROPERTY(NodeBasicJsonStr, nodeBasicJson, false)
-QX_STRING_PROPERTY(ShouBianJsonStr, shouBianJson, false)
-QX_STRING_PROPERTY(AccessoryJsonStr, accessoryJson, false)
-
-#undef QX_STRING_PROPERTY
-
-#define QX_COLOR_PROPERTY(NAME, FIELD)                               \
-    int AecDivisionLine::Get##NAME() const                           \
-    {                                                                \
-        assertReadEnabled();                                         \
-        return m_imp->FIELD;                                         \
-    }                                                                \
-    Acad::ErrorStatus AecDivisionLine::Set##NAME(int index)          \
-    {                                                                \
-        assertWriteEnabled(true, true);                              \
-        m_imp->FIELD = ClampColorIndex(index);                       \
-        recordGraphicsModified();                                    \
-        return Acad::eOk;                                            \
-    }
-
-QX_COLOR_PROPERTY(JieDianTextColorIndex, jieDianTextColorIndex)
-QX_COLOR_PROPERTY(JieDianBoundaryColorIndex, jieDianBoundaryColorIndex)
-QX_COLOR_PROPERTY(ShouBianTextColorIndex, shouBianTextColorIndex)
-QX_COLOR_PROPERTY(ShouBianLineColorIndex, shouBianLineColorIndex)
-
-#undef QX_COLOR_PROPERTY
+QX_DEFINE_LINE_SETTINGS_ACCESSORS(AecDivisionLine)
 
 // ---- derived polylines
 
@@ -353,24 +190,12 @@ void AecDivisionLine::OnEndModifyPolyline()
 {
     QxPolylineBasedCurve::OnEndModifyPolyline();
     Imp& imp = *m_imp;
-    const AcGeVector3d previous = imp.Direction();
     imp.EnsurePolylines();
     const AcDbPolyline* centre = imp.centerPolyline;
-    if (centre->numVerts() > 0) {
-        AcGePoint3d start;
-        AcGePoint3d end;
-        if (centre->getStartPoint(start) == Acad::eOk && centre->getEndPoint(end) == Acad::eOk && IsFinite(start) &&
-            IsFinite(end)) {
-            imp.startPoint = start;
-            imp.endPoint = end;
-        }
-        double bulge = 0.0;
-        if (centre->getBulgeAt(0, bulge) == Acad::eOk && !std::isnan(bulge))
-            imp.bulge = DivisionLineGeometry::ClampBulge(bulge);
-    }
-    imp.startPoint.z = 0.0;
-    imp.endPoint.z = 0.0;
-    DivisionLineGeometry::ApplyLengthRule(imp.endPoint, imp.startPoint, previous);
+    double bulge = 0.0;
+    if (centre->numVerts() > 0 && centre->getBulgeAt(0, bulge) == Acad::eOk && !std::isnan(bulge))
+        imp.bulge = DivisionLineGeometry::ClampBulge(bulge);
+    LayoutLineGeometry::TakeEndsFrom(*centre, imp.startPoint, imp.endPoint);
     imp.Refresh();
 }
 

@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "AcString.h"
+#include "LayoutLineMembers.h"
 #include "data/DataNodeRoot.h"
 #include "geometry/QxPolylineBasedCurve.h"
 
@@ -28,14 +29,8 @@ public:
     AecDivisionLine(const AecDivisionLine&) = delete;
     AecDivisionLine& operator=(const AecDivisionLine&) = delete;
 
-    // The point setters keep the line between 5.0 and 512000.0 long by moving the point
-    // that was set (the end for SetPoints); eInvalidInput, with nothing changed, for
-    // non-finite coordinates.
-    AcGePoint3d GetStartPoint() const;
-    Acad::ErrorStatus SetStartPoint(const AcGePoint3d& pt);
-    AcGePoint3d GetEndPoint() const;
-    Acad::ErrorStatus SetEndPoint(const AcGePoint3d& pt);
-    Acad::ErrorStatus SetPoints(const AcGePoint3d& start, const AcGePoint3d& end);
+    // Start and end, the line held between 5.0 and 512000.0 long.
+    QX_DECLARE_LINE_POINT_ACCESSORS()
 
     // Limited to [-1000, 1000]; eInvalidInput for NaN.
     double GetBulge() const;
@@ -57,32 +52,8 @@ public:
     // True when every bit of option is set.
     bool IsDrawOptionEnabled(DrawOptions option) const;
 
-    AcString GetJieDianTextLayerName() const;
-    Acad::ErrorStatus SetJieDianTextLayerName(const AcString& name);
-    AcString GetJieDianBoundaryLayerName() const;
-    Acad::ErrorStatus SetJieDianBoundaryLayerName(const AcString& name);
-    AcString GetShouBianTextLayerName() const;
-    Acad::ErrorStatus SetShouBianTextLayerName(const AcString& name);
-    AcString GetShouBianLineLayerName() const;
-    Acad::ErrorStatus SetShouBianLineLayerName(const AcString& name);
-
-    // Colour indices; anything outside 0..256 is stored as 0 (the entity's own colour).
-    int GetJieDianTextColorIndex() const;
-    Acad::ErrorStatus SetJieDianTextColorIndex(int index);
-    int GetJieDianBoundaryColorIndex() const;
-    Acad::ErrorStatus SetJieDianBoundaryColorIndex(int index);
-    int GetShouBianTextColorIndex() const;
-    Acad::ErrorStatus SetShouBianTextColorIndex(int index);
-    int GetShouBianLineColorIndex() const;
-    Acad::ErrorStatus SetShouBianLineColorIndex(int index);
-
-    // "节点基本信息", "收边信息" and "辅配件信息": opaque text, kept as given.
-    AcString GetNodeBasicJsonStr() const;
-    Acad::ErrorStatus SetNodeBasicJsonStr(const AcString& json);
-    AcString GetShouBianJsonStr() const;
-    Acad::ErrorStatus SetShouBianJsonStr(const AcString& json);
-    AcString GetAccessoryJsonStr() const;
-    Acad::ErrorStatus SetAccessoryJsonStr(const AcString& json);
+    // The JieDian/ShouBian layer names and colour indices and the three JSON blocks.
+    QX_DECLARE_LINE_SETTINGS_ACCESSORS()
 
     // New polylines in no database, owned by the caller: the open centre line (vertex 0 the
     // start with the bulge, vertex 1 the end), and the closed outline (empty when the line

@@ -5,6 +5,7 @@
 #include "AecDivisionLine.h"
 #include "AecDivisionLineImp.h"
 #include "DivisionLineGeometry.h"
+#include "LayoutLineGeometry.h"
 
 namespace {
 
@@ -20,63 +21,26 @@ Acad::ErrorStatus AecDivisionLine::subTransformBy(const AcGeMatrix3d& xform)
 {
     assertWriteEnabled();
     Imp& imp = *m_imp;
-    imp.startPoint.transformBy(xform);
-    imp.endPoint.transformBy(xform);
+    LayoutLineGeometry::TransformEnds(xform, imp.startPoint, imp.endPoint);
     if (imp.HasIdentifierPoint())
         imp.boundaryIdentifierPoint.transformBy(xform);
-    imp.startPoint.z = 0.0;
-    imp.endPoint.z = 0.0;
-    DivisionLineGeometry::ApplyLengthRule(imp.endPoint, imp.startPoint, imp.Direction());
-    double left = (xform * AcGeVector3d(imp.indentLeft, 0.0, 0.0)).length();
-    double right = (xform * AcGeVector3d(imp.indentRight, 0.0, 0.0)).length();
-    // A mirror turns the line's left into the image's right, and its arc the other way
-    // round: the image of an anticlockwise arc runs clockwise.
-    if (xform.det() < 0.0) {
-        std::swap(left, right);
+    LayoutLineGeometry::TransformWidths(xform, imp.indentLeft, imp.indentRight);
+    // A mirror turns the arc the other way round: the image of an anticlockwise arc runs
+    // clockwise.
+    if (xform.det() < 0.0)
         imp.bulge = -imp.bulge;
-    }
-    imp.indentLeft = left;
-    imp.indentRight = right;
     imp.Refresh();
     return Acad::eOk;
 }
 
-Acad::ErrorStatus AecDivisionLine::subGetStretchPoints(AcGePoint3dArray& stretchPoints) const
-{
-    assertReadEnabled();
-    stretchPoints.append(m_imp->startPoint);
-    stretchPoints.append(m_imp->endPoint);
-    return Acad::eOk;
-}
-
-Acad::ErrorStatus AecDivisionLine::subMoveStretchPointsAt(const AcDbIntArray& indices, const AcGeVector3d& offset)
-{
-    if (indices.isEmpty())
-        return QxPolylineBasedCurve::subMoveGripPointsAt(indices, offset);
-    assertWriteEnabled();
-    Imp& imp = *m_imp;
-    for (int index : indices) {
-        const AcGeVector3d previous = imp.Direction();
-        if (index == 0) {
-            imp.startPoint += offset;
-            DivisionLineGeometry::ApplyLengthRule(imp.startPoint, imp.endPoint, -previous);
-        } else if (index == 1) {
-            imp.endPoint += offset;
-            DivisionLineGeometry::ApplyLengthRule(imp.endPoint, imp.startPoint, previous);
-        } else {
-            continue;
-        }
-        imp.Refresh();
-    }
-    return Acad::eOk;
-}
+QX_DEFINE_LINE_STRETCH(AecDivisionLine, Refresh)
 
 Acad::ErrorStatus AecDivisionLine::subGetGripPoints(AcDbGripDataPtrArray& grips, const double, const int,
                                                     const AcGeVector3d&, const int) const
 {
     assertReadEnabled();
     Imp& imp = *m_imp;
-    imp.FreeGripRecords();
+    imp.grips.Clear();
     const AcGePoint3d points[] = {
         imp.startPoint,
         imp.endPoint,
@@ -86,11 +50,8 @@ Acad::ErrorStatus AecDivisionLine::subGetGripPoints(AcDbGripDataPtrArray& grips,
     };
     const DivisionLineGrip kinds[] = {DivisionLineGrip::kStart, DivisionLineGrip::kEnd, DivisionLineGrip::kMiddle,
                                       DivisionLineGrip::kIdentifier, DivisionLineGrip::kMove};
-    for (int i = 0; i < 5; ++i) {
-        imp.gripRecords.push_back(std::make_unique<DivisionLineGripRecord>(
-            DivisionLineGripRecord{kinds[i], static_cast<Adesk::Int32>(i), points[i]}));
-        grips.append(new AcDbGripData(points[i], imp.gripRecords.back().get()));
-    }
+    for (int i = 0; i < 5; ++i)
+        grips.append(imp.grips.HandOut(kinds[i], points[i]));
     return Acad::eOk;
 }
 
@@ -109,7 +70,7 @@ Acad::ErrorStatus AecDivisionLine::subMoveGripPointsAt(const AcDbVoidPtrArray& g
         return Acad::eOk;
     Imp& imp = *m_imp;
     for (void* appData : gripAppData) {
-        const DivisionLineGripRecord* record = imp.FindGripRecord(appData);
+        const auto* record = imp.grips.Find(appData);
         if (record == nullptr)
             continue;
         switch (record->kind) {
@@ -118,21 +79,15 @@ Acad::ErrorStatus AecDivisionLine::subMoveGripPointsAt(const AcDbVoidPtrArray& g
             // The label keeps its signed distance from the chord; one never placed is
             // left to the refresh.
             const bool placed = imp.HasIdentifierPoint();
-            const AcGeVector3d normal = DivisionLineGeometry::ChordNormal(imp.startPoint, imp.endPoint);
+            const AcGeVector3d normal = LayoutLineGeometry::ChordNormal(imp.startPoint, imp.endPoint);
             const double side = placed && !normal.isZeroLength()
                                     ? (imp.boundaryIdentifierPoint - imp.ChordMidpoint()).dotProduct(normal)
                                     : 0.0;
-            const AcGeVector3d previous = imp.Direction();
-            if (record->kind == DivisionLineGrip::kStart) {
-                imp.startPoint += offset;
-                DivisionLineGeometry::ApplyLengthRule(imp.startPoint, imp.endPoint, -previous);
-            } else {
-                imp.endPoint += offset;
-                DivisionLineGeometry::ApplyLengthRule(imp.endPoint, imp.startPoint, previous);
-            }
+            LayoutLineGeometry::MoveStretchPoint(record->kind == DivisionLineGrip::kStart ? 0 : 1, offset,
+                                                 imp.startPoint, imp.endPoint);
             imp.Refresh();
             if (placed) {
-                const AcGeVector3d moved = DivisionLineGeometry::ChordNormal(imp.startPoint, imp.endPoint);
+                const AcGeVector3d moved = LayoutLineGeometry::ChordNormal(imp.startPoint, imp.endPoint);
                 imp.boundaryIdentifierPoint =
                     moved.isZeroLength() ? imp.ChordMidpoint() : imp.ChordMidpoint() + moved * side;
             }
@@ -141,7 +96,7 @@ Acad::ErrorStatus AecDivisionLine::subMoveGripPointsAt(const AcDbVoidPtrArray& g
         case DivisionLineGrip::kMiddle:
             break;
         case DivisionLineGrip::kIdentifier: {
-            const AcGeVector3d normal = DivisionLineGeometry::ChordNormal(imp.startPoint, imp.endPoint);
+            const AcGeVector3d normal = LayoutLineGeometry::ChordNormal(imp.startPoint, imp.endPoint);
             if (normal.isZeroLength())
                 break;
             const AcGePoint3d mid = imp.ChordMidpoint();
@@ -173,6 +128,6 @@ Acad::ErrorStatus AecDivisionLine::subMoveGripPointsAt(const AcDbIntArray&, cons
 void AecDivisionLine::subGripStatus(const AcDb::GripStat status)
 {
     if (status == AcDb::kGripsToBeDeleted)
-        m_imp->FreeGripRecords();
+        m_imp->grips.Clear();
     QxPolylineBasedCurve::subGripStatus(status);
 }

@@ -7,6 +7,10 @@
 #include <vector>
 
 #include "AecDivisionLine.h"
+#include "LineDisplaySettings.h"
+#include "LineGripRecords.h"
+#include "LineJsonBlocks.h"
+#include "LinePolylines.h"
 #include "Qx/GePointUtil.h"
 #include "dbpl.h"
 
@@ -19,16 +23,6 @@ enum class DivisionLineGrip : Adesk::Int32 {
     kMove = 4,
 };
 
-// The 32-byte application record that each handed-out grip points to.
-struct DivisionLineGripRecord {
-    DivisionLineGrip kind;
-    // The grip's place in the hand-out (0-4).
-    Adesk::Int32 order;
-    // Where the grip was when it was handed out.
-    AcGePoint3d point;
-};
-static_assert(sizeof(DivisionLineGripRecord) == 32, "a division line grip record is 32 bytes");
-
 struct AecDivisionLine::Imp {
     explicit Imp(AecDivisionLine* o) : owner(o) {}
 
@@ -37,7 +31,7 @@ struct AecDivisionLine::Imp {
     std::vector<std::unique_ptr<AcDbPolyline>> derivedPolylines;
     AcDbPolyline* centerPolyline = nullptr;
     AcDbPolyline* boundaryPolyline = nullptr;
-    std::vector<std::unique_ptr<DivisionLineGripRecord>> gripRecords;
+    LineGripRecords<DivisionLineGrip> grips;
 
     AcGePoint3d startPoint = AcGePoint3d::kOrigin;
     AcGePoint3d endPoint = AcGePoint3d::kOrigin;
@@ -46,18 +40,9 @@ struct AecDivisionLine::Imp {
     double indentLeft = 10.0;
     double indentRight = 20.0;
     bool spareFlag = true;
-    AcString jieDianTextLayerName;
-    AcString jieDianBoundaryLayerName;
-    AcString shouBianTextLayerName;
-    AcString shouBianLineLayerName;
-    int jieDianTextColorIndex = 0;
-    int jieDianBoundaryColorIndex = 0;
-    int shouBianTextColorIndex = 0;
-    int shouBianLineColorIndex = 0;
+    LineDisplaySettings display;
     DrawOptions drawOptions = static_cast<DrawOptions>(kDrawCenterLine | kDrawBoundary);
-    AcString nodeBasicJson;
-    AcString shouBianJson;
-    AcString accessoryJson;
+    LineJsonBlocks json;
 
     AcGeVector3d Direction() const { return endPoint - startPoint; }
     bool HasIdentifierPoint() const { return !Qx::GePointUtil::IsUninitialized(boundaryIdentifierPoint); }
@@ -73,26 +58,6 @@ struct AecDivisionLine::Imp {
     AcDbPolyline* BuildCenterPolyline() const;
     AcDbPolyline* BuildBoundaryPolyline() const;
 
-    // Runs query on each polyline the draw options show (centre, then a boundary with
-    // corners) and answers the first failure.
-    template <typename Query>
-    Acad::ErrorStatus QueryShownPolylines(Query query)
-    {
-        EnsurePolylines();
-        if ((drawOptions & kDrawCenterLine) == kDrawCenterLine) {
-            const Acad::ErrorStatus es = query(*centerPolyline);
-            if (es != Acad::eOk)
-                return es;
-        }
-        if ((drawOptions & kDrawBoundary) == kDrawBoundary && boundaryPolyline->numVerts() > 0)
-            return query(*boundaryPolyline);
-        return Acad::eOk;
-    }
-
-    void FreeGripRecords() { gripRecords.clear(); }
-    // The record if it is one this line handed out, else null.
-    const DivisionLineGripRecord* FindGripRecord(const void* appData) const;
-
-    // The entity's database when it has one, for layer look-ups.
-    AcDbObjectId FindLayer(const AcString& name) const;
+    // The polylines the draw options show: the centre line, then a boundary with corners.
+    LinePolylines ShownPolylines();
 };

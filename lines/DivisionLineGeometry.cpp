@@ -1,10 +1,11 @@
-// DivisionLineGeometry: length rule, segment arc, default label point and outline corners.
+// DivisionLineGeometry: segment arc, default label point and outline corners.
 #include "DivisionLineGeometry.h"
 
 #include <algorithm>
 #include <cmath>
 #include <ostream>
 
+#include "LayoutLineGeometry.h"
 #include "gearc2d.h"
 #include "gepnt2d.h"
 
@@ -15,42 +16,17 @@ AcGePoint3d Flat(const AcGePoint3d& p)
     return AcGePoint3d(p.x, p.y, 0.0);
 }
 
-AcGePoint3d ChordMidpoint(const AcGePoint3d& start, const AcGePoint3d& end)
-{
-    return AcGePoint3d((start.x + end.x) * 0.5, (start.y + end.y) * 0.5, 0.0);
-}
-
 // The straight outline: the left corners along -n, the right ones along +n.
 DivisionLineGeometry::Outline StraightOutline(const AcGePoint3d& start, const AcGePoint3d& end,
                                               const AcGeVector3d& n, double indentLeft, double indentRight)
 {
     DivisionLineGeometry::Outline outline;
-    outline.corners = {start - n * indentLeft, start + n * indentRight, end + n * indentRight, end - n * indentLeft};
+    outline.corners = LayoutLineGeometry::Corners(start, end, n, indentLeft, indentRight);
     outline.bulge = 0.0;
     return outline;
 }
 
 }  // namespace
-
-void DivisionLineGeometry::ApplyLengthRule(AcGePoint3d& moved, const AcGePoint3d& fixed,
-                                           const AcGeVector3d& fallbackDirection)
-{
-    moved.z = 0.0;
-    const AcGeVector3d offset = moved - fixed;
-    const double d = offset.length();
-    if (d < kMinimumLength - kLengthRuleSlack) {
-        AcGeVector3d u = offset;
-        if (d < kDirectionTolerance) {
-            u = fallbackDirection;
-            if (!(u.length() >= kDirectionTolerance))
-                u = AcGeVector3d::kXAxis;
-        }
-        u = u / u.length();
-        moved = fixed + u * kMinimumLength;
-    } else if (d > kMaximumLength + kLengthRuleSlack) {
-        moved = fixed + (offset / d) * kMaximumLength;
-    }
-}
 
 double DivisionLineGeometry::ClampBulge(double bulge)
 {
@@ -71,7 +47,7 @@ bool DivisionLineGeometry::ComputeArc(const AcGePoint3d& start, const AcGePoint3
     // midpoint on the other side at the sagitta b c / 2.
     const double wx = -dy / chord;
     const double wy = dx / chord;
-    const AcGePoint3d mid = ChordMidpoint(start, end);
+    const AcGePoint3d mid = LayoutLineGeometry::Midpoint(start, end);
     const double toCenter = chord * (1.0 - bulge * bulge) / (4.0 * bulge);
     const double sagitta = bulge * chord * 0.5;
     arc.center = AcGePoint3d(mid.x + wx * toCenter, mid.y + wy * toCenter, 0.0);
@@ -85,10 +61,10 @@ AcGePoint3d DivisionLineGeometry::DefaultIdentifierPoint(const AcGePoint3d& star
                                                          double bulge)
 {
     if (std::fabs(bulge) < kStraightBulge)
-        return ChordMidpoint(start, end);
+        return LayoutLineGeometry::Midpoint(start, end);
     Arc arc;
     if (!ComputeArc(start, end, bulge, arc))
-        return ChordMidpoint(start, end);
+        return LayoutLineGeometry::Midpoint(start, end);
     return arc.midpoint;
 }
 
@@ -105,24 +81,11 @@ AcGePoint3d DivisionLineGeometry::PointOnSegment(const AcGePoint3d& start, const
                        arc.center.y + x * std::sin(angle) + y * std::cos(angle), 0.0);
 }
 
-AcGeVector3d DivisionLineGeometry::ChordNormal(const AcGePoint3d& start, const AcGePoint3d& end)
-{
-    const AcGeVector3d chord = end - start;
-    if (!(chord.length() >= kDirectionTolerance))
-        return AcGeVector3d(0.0, 0.0, 0.0);
-    AcGeVector3d d = chord.normal();
-    d.z = 0.0;
-    if (d.isZeroLength())
-        return AcGeVector3d(0.0, 0.0, 0.0);
-    d.normalize();
-    return d.perpVector().normal();
-}
-
 DivisionLineGeometry::Outline DivisionLineGeometry::ComputeOutline(const AcGePoint3d& start, const AcGePoint3d& end,
                                                                    double bulge, double indentLeft,
                                                                    double indentRight)
 {
-    const AcGeVector3d n = ChordNormal(start, end);
+    const AcGeVector3d n = LayoutLineGeometry::ChordNormal(start, end);
     if (n.isZeroLength())
         return Outline();
     if (std::fabs(bulge) < kStraightBulge)
@@ -149,13 +112,14 @@ DivisionLineGeometry::Outline DivisionLineGeometry::ComputeOutline(const AcGePoi
                        end + leftEnd * indentLeft};
     const AcGePoint3d& p1 = outline.corners[1];
     const AcGePoint3d& p2 = outline.corners[2];
-    if (p1.distanceTo(p2) <= kDirectionTolerance)
+    if (p1.distanceTo(p2) <= LayoutLineGeometry::kDirectionTolerance)
         return outline;
     // The right side keeps the centre line's bulge when it runs round the same centre; a
     // right side pushed through the centre turns the other way.
     const AcGeCircArc2d rightArc(AcGePoint2d(p1.x, p1.y), AcGePoint2d(p2.x, p2.y), bulge, Adesk::kFalse);
     const AcGePoint2d rightCenter = rightArc.center();
-    const double tolerance = std::max(start.distanceTo(arc.center) * kConcentricRelativeTolerance, kDirectionTolerance);
+    const double tolerance =
+        std::max(start.distanceTo(arc.center) * kConcentricRelativeTolerance, LayoutLineGeometry::kDirectionTolerance);
     const double apart = std::hypot(rightCenter.x - arc.center.x, rightCenter.y - arc.center.y);
     outline.bulge = apart <= tolerance ? bulge : -bulge;
     return outline;

@@ -1,6 +1,7 @@
 // DivisionLineGeometry: the plane geometry of a division line, kept apart from the entity:
-// the length rule, the arc of a bulged segment, the default place of the boundary label
-// and the corners of the outline set off by the two indents. All points lie at Z = 0.
+// the arc of a bulged segment, the default place of the boundary label and the corners of
+// the outline set off by the two indents. All points lie at Z = 0; the length rule and
+// the chord's normal are those of every layout line (LayoutLineGeometry).
 #pragma once
 
 #include <iosfwd>
@@ -11,21 +12,13 @@
 
 class DivisionLineGeometry {
 public:
-    // A division line is never shorter or longer than this (drawing units).
-    static constexpr double kMinimumLength = 5.0;
-    static constexpr double kMaximumLength = 512000.0;
-    // A point that the rule has already placed on a limit is not nudged again by rounding,
-    // so that refiling a line leaves its bytes as they were.
-    static constexpr double kLengthRuleSlack = 1e-9;
-    // Vectors shorter than this give no direction (chords, moved points, radii).
-    static constexpr double kDirectionTolerance = 1e-5;
     // Bulges closer to zero than this make a straight segment.
     static constexpr double kStraightBulge = 1e-10;
     // A chord this short has no arc through its ends.
     static constexpr double kArcChordTolerance = 1e-10;
     static constexpr double kMaximumBulge = 1000.0;
     // The right-side arc counts as concentric when its centre is this close, relative to
-    // the radius, with kDirectionTolerance as the floor.
+    // the radius, with the layout lines' direction tolerance as the floor.
     static constexpr double kConcentricRelativeTolerance = 1e-8;
 
     // The circle arc of a bulged segment.
@@ -45,11 +38,6 @@ public:
         double bulge = 0.0;
     };
 
-    // Moves `moved` so that its distance from `fixed` is within [kMinimumLength,
-    // kMaximumLength], with its Z set to 0. A point on top of `fixed` goes along
-    // `fallbackDirection`, or along X when that is shorter than kDirectionTolerance.
-    static void ApplyLengthRule(AcGePoint3d& moved, const AcGePoint3d& fixed, const AcGeVector3d& fallbackDirection);
-
     // Non-finite bulges other than the infinities are refused by the callers; this only
     // limits the value to [-kMaximumBulge, kMaximumBulge].
     static double ClampBulge(double bulge);
@@ -65,12 +53,8 @@ public:
     // The point a fraction t of the way along the segment (along the arc for an arc).
     static AcGePoint3d PointOnSegment(const AcGePoint3d& start, const AcGePoint3d& end, double bulge, double t);
 
-    // The unit perpendicular of the chord as the host turns it (perpVector of the unit
-    // direction); the zero vector when the chord is shorter than kDirectionTolerance.
-    static AcGeVector3d ChordNormal(const AcGePoint3d& start, const AcGePoint3d& end);
-
     // The left indent is set off along -n (or the radial direction on that side), the
-    // right indent along +n, n being ChordNormal.
+    // right indent along +n, n being the chord's normal (LayoutLineGeometry::ChordNormal).
     static Outline ComputeOutline(const AcGePoint3d& start, const AcGePoint3d& end, double bulge, double indentLeft,
                                   double indentRight);
 };

@@ -6,6 +6,8 @@
 #include <gtest/gtest.h>
 
 #include "lines/AecDivisionLine.h"
+#include "lines/AecOverlapLine.h"
+#include "lines/AecStructuralLine.h"
 #include "openings/AecCircleOpening.h"
 
 template <typename T>
@@ -58,4 +60,54 @@ struct ConformanceCase<AecDivisionLine> {
     }
 };
 
-using ConformanceTypes = ::testing::Types<AecCircleOpening, AecDivisionLine>;
+template <>
+struct ConformanceCase<AecOverlapLine> {
+    using HostBase = AcDbCurve;
+    static AecOverlapLine* MakeSample()
+    {
+        auto* line = new AecOverlapLine();
+        line->SetPoints(AcGePoint3d(3200, 400, 0), AcGePoint3d(900, 1500, 0));  // drawn right to left
+        line->SetOverlapLeft(60);
+        line->SetOverlapRight(90);
+        line->SetOverlapDirection(RightOverLeft);
+        line->SetDrawOptions(
+            static_cast<OverlapDrawOptions>(kOverlapDrawCenterLine | kOverlapDrawBoundary | kOverlapDrawDirection));
+        line->SetJieDianBoundaryColorIndex(2);
+        line->SetShouBianJsonStr(L"{\"搭接\":\"两波\"}");
+        return line;
+    }
+    static void Edit(AecOverlapLine* line)
+    {
+        line->SetStartPoint(AcGePoint3d(3400, 300, 0));
+        line->SetOverlapDirection(LeftOverRight);
+        line->SetNodeBasicJsonStr(L"{\"编号\":\"DJ-2\"}");
+    }
+};
+
+template <>
+struct ConformanceCase<AecStructuralLine> {
+    using HostBase = AcDbCurve;
+    static AecStructuralLine* MakeSample()
+    {
+        auto* line = new AecStructuralLine();
+        line->SetPoints(AcGePoint3d(600, 2400, 0), AcGePoint3d(4200, 900, 0));
+        line->SetMemberType(kStructuralBeam);
+        line->SetMemberWidthLeft(80);
+        line->SetMemberWidthRight(70);
+        line->SetIndentLeft(55);
+        line->SetIndentRight(90);  // wider than the member on that side
+        line->SetDrawOptions(static_cast<StructuralDrawOptions>(
+            kStructuralDrawCenterLine | kStructuralDrawMemberBoundary | kStructuralDrawIndentLines));
+        line->SetShouBianLineColorIndex(6);
+        line->SetAccessoryJsonStr(L"[\"檩托\"]");
+        return line;
+    }
+    static void Edit(AecStructuralLine* line)
+    {
+        line->SetEndPoint(AcGePoint3d(4500, 1100, 0));
+        line->SetIndentLeft(40);
+        line->SetMemberType(kStructuralColumn);
+    }
+};
+
+using ConformanceTypes = ::testing::Types<AecCircleOpening, AecDivisionLine, AecOverlapLine, AecStructuralLine>;

@@ -8,6 +8,7 @@
 
 #include "ModuleTestSupport.h"
 #include "lines/DivisionLineGeometry.h"
+#include "lines/LayoutLineGeometry.h"
 
 namespace {
 
@@ -209,11 +210,11 @@ TEST(DivisionLineGeometryTest, LengthRule)
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
         AcGePoint3d moved = row.moved;
-        DivisionLineGeometry::ApplyLengthRule(moved, row.fixed, row.fallback);
+        LayoutLineGeometry::ApplyLengthRule(moved, row.fixed, row.fallback);
         EXPECT_TRUE(qxtest::Near(moved, row.expected, 1e-9));
         // The rule is settled: applying it again changes no bit.
         AcGePoint3d again = moved;
-        DivisionLineGeometry::ApplyLengthRule(again, row.fixed, row.fallback);
+        LayoutLineGeometry::ApplyLengthRule(again, row.fixed, row.fallback);
         EXPECT_EQ(again.x, moved.x);
         EXPECT_EQ(again.y, moved.y);
     }
