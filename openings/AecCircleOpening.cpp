@@ -94,9 +94,12 @@ void AecCircleOpening::LoadFromNode()
         m_imp->data.LoadFromNodeData(node);
 }
 
+// A null filer is answered before the host circle's own filing would use it.
 Acad::ErrorStatus AecCircleOpening::dwgOutFields(AcDbDwgFiler* filer) const
 {
     assertReadEnabled();
+    if (filer == nullptr || m_imp == nullptr)
+        return Acad::eNullObjectPointer;
     const Acad::ErrorStatus es = AcDbCircle::dwgOutFields(filer);
     if (es != Acad::eOk)
         return es;
@@ -108,6 +111,8 @@ Acad::ErrorStatus AecCircleOpening::dwgOutFields(AcDbDwgFiler* filer) const
 Acad::ErrorStatus AecCircleOpening::dwgInFields(AcDbDwgFiler* filer)
 {
     assertWriteEnabled();
+    if (filer == nullptr || m_imp == nullptr)
+        return Acad::eNullObjectPointer;
     const Acad::ErrorStatus es = AcDbCircle::dwgInFields(filer);
     if (es != Acad::eOk)
         return es;

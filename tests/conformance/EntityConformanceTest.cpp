@@ -98,6 +98,16 @@ TYPED_TEST(EntityConformanceTest, FilingIsLosslessAndByteStable)
     copy->close();
 }
 
+TYPED_TEST(EntityConformanceTest, ANullFilerAnswers15InAndOutAndChangesNothing)
+{
+    TypeParam* entity = this->AddSample(AcDb::kForWrite);
+    const qxtest::Bytes before = qxtest::FileOut(entity);
+    EXPECT_EQ(static_cast<int>(entity->dwgOutFields(nullptr)), 15);
+    EXPECT_EQ(static_cast<int>(entity->dwgInFields(nullptr)), 15);
+    EXPECT_EQ(qxtest::FileOut(entity), before);
+    entity->close();
+}
+
 TYPED_TEST(EntityConformanceTest, ANewerClassVersionIsRefused)
 {
     TypeParam* entity = this->AddSample(AcDb::kForRead);
