@@ -1,8 +1,8 @@
 // What every entity of the module promises the host: a default instance is valid; filing
-// is lossless and byte-stable; a null filer is refused; a newer class version is refused
-// and kept as a proxy; transform then inverse restores the geometry; extents contain the
-// grips; a zero grip move changes nothing; the draw stops on an aborted regeneration; undo
-// restores the state.
+// is lossless and byte-stable, in memory and through a drawing file; a null filer is
+// refused; a newer class version is refused and kept as a proxy; transform then inverse
+// restores the geometry; extents contain the grips; a zero grip move changes nothing; the
+// draw stops on an aborted regeneration; undo restores the state.
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -108,6 +108,33 @@ TYPED_TEST(EntityConformanceTest, FilingIsLosslessAndByteStable)
     EXPECT_EQ(qxtest::FileOut(copy), first);
     EXPECT_TRUE(qxtest::SamePrimitives(qxtest::Draw(copy), drawn, 0.0));
     copy->close();
+}
+
+TYPED_TEST(EntityConformanceTest, ADrawingSavedAndReopenedGivesTheEntityBackAsItWas)
+{
+    AcDbObjectId id;
+    TypeParam* entity = this->AddSample(AcDb::kForRead, &id);
+    const qxtest::Bytes bytes = qxtest::FileOut(entity);
+    const auto drawn = qxtest::Draw(entity);
+    entity->close();
+    std::vector<std::uint8_t> file;
+    ASSERT_EQ(headless::DrawingFile::write(this->working.db(), file), Acad::eOk);
+
+    AcDbDatabase* reopened = nullptr;
+    headless::DrawingReadReport report;
+    ASSERT_EQ(headless::DrawingFile::read(file, reopened, &report), Acad::eOk);
+    std::unique_ptr<AcDbDatabase> owner(reopened);
+    EXPECT_EQ(report.proxies, 0);
+    AcDbObjectId copyId;
+    ASSERT_EQ(reopened->getAcDbObjectId(copyId, false, id.handle()), Acad::eOk);
+    TypeParam* copy = this->Open(copyId, AcDb::kForRead);
+    ASSERT_NE(copy, nullptr);
+    EXPECT_EQ(qxtest::FileOut(copy), bytes);
+    EXPECT_TRUE(qxtest::SamePrimitives(qxtest::Draw(copy), drawn, 0.0));
+    copy->close();
+    std::vector<std::uint8_t> again;
+    ASSERT_EQ(headless::DrawingFile::write(reopened, again), Acad::eOk);
+    EXPECT_EQ(again, file);
 }
 
 TYPED_TEST(EntityConformanceTest, ANullFilerAnswers15InAndOutAndChangesNothing)

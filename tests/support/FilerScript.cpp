@@ -17,8 +17,12 @@ void WriteItems(AcDbDwgFiler& filer, const std::vector<FilerItem>& items)
             filer.writeBool(*b);
         else if (const wchar_t* const* text = std::get_if<const wchar_t*>(&item))
             filer.writeString(AcString(*text));
+        else if (const AcGePoint3d* point = std::get_if<AcGePoint3d>(&item))
+            filer.writePoint3d(*point);
+        else if (const AcGeVector3d* vector = std::get_if<AcGeVector3d>(&item))
+            filer.writeVector3d(*vector);
         else
-            filer.writePoint3d(std::get<AcGePoint3d>(item));
+            filer.writeSoftPointerId(std::get<AcDbSoftPointerId>(item));
     }
 }
 

@@ -1,6 +1,7 @@
 // Filer streams written by hand as a list of values, each written with the filer's call
-// for its type: Int32 for int, Double, Bool, String for text, Point3d. Tests write hostile
-// or older records with it, and spell out golden transcripts as the same lists.
+// for its type: Int32 for int, Double, Bool, String for text, Point3d, Vector3d and
+// SoftPointerId. Tests write hostile or older records with it, and spell out golden
+// transcripts as such lists.
 #pragma once
 
 #include <string>
@@ -11,7 +12,7 @@
 
 namespace qxtest {
 
-using FilerItem = std::variant<int, double, bool, const wchar_t*, AcGePoint3d>;
+using FilerItem = std::variant<int, double, bool, const wchar_t*, AcGePoint3d, AcGeVector3d, AcDbSoftPointerId>;
 
 void WriteItems(AcDbDwgFiler& filer, const std::vector<FilerItem>& items);
 
