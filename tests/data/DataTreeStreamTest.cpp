@@ -2,8 +2,7 @@
 // and nesting. The stream is a file format: these transcripts must never change.
 #include <gtest/gtest.h>
 
-#include <variant>
-
+#include "FilerScript.h"
 #include "TreeTestEntity.h"
 #include "headless/MemoryDwgFiler.h"
 #include "headless/RecordingDwgFiler.h"
@@ -15,18 +14,6 @@ protected:
     static void SetUpTestSuite() { TreeTestEntity::EnsureRegistered(); }
 };
 
-// A stream written by hand: integers as Int32, texts as strings.
-using Item = std::variant<int, const wchar_t*>;
-void Write(AcDbDwgFiler& filer, std::initializer_list<Item> items)
-{
-    for (const Item& item : items) {
-        if (const int* value = std::get_if<int>(&item))
-            filer.writeInt32(*value);
-        else
-            filer.writeString(AcString(std::get<const wchar_t*>(item)));
-    }
-}
-
 std::vector<std::string> WrittenLines(const TreeTestEntity& entity)
 {
     headless::RecordingDwgFiler filer;
@@ -34,22 +21,15 @@ std::vector<std::string> WrittenLines(const TreeTestEntity& entity)
     return filer.lines();
 }
 
-std::vector<std::string> Lines(std::initializer_list<Item> items)
-{
-    headless::RecordingDwgFiler filer;
-    Write(filer, items);
-    return filer.lines();
-}
-
 TEST_F(DataTreeStreamTest, SmallTreesWriteTheirCountsNamesAndValues)
 {
     TreeTestEntity empty;
-    EXPECT_EQ(WrittenLines(empty), Lines({-1001, 1, 0, 0}));
+    EXPECT_EQ(WrittenLines(empty), qxtest::ItemLines({-1001, 1, 0, 0}));
 
     TreeTestEntity entity;
     entity.GetNode(L"root")->SetValue(L"a", 5);
     entity.AddNode(L"c");
-    EXPECT_EQ(WrittenLines(entity), Lines({-1001, 1, 1, L"a", 0, 5, 1, L"c", 0, 0}));
+    EXPECT_EQ(WrittenLines(entity), qxtest::ItemLines({-1001, 1, 1, L"a", 0, 5, 1, L"c", 0, 0}));
 }
 
 TEST_F(DataTreeStreamTest, EveryValueTypeHasItsTagAndOneCall)
@@ -68,19 +48,12 @@ TEST_F(DataTreeStreamTest, EveryValueTypeHasItsTagAndOneCall)
     node->SetValue(L"9", AcDbHardPointerId());
     const std::vector<std::string> lines = WrittenLines(entity);
     const std::vector<std::string> valueLines(lines.begin() + 6, lines.end() - 1);
-    const std::vector<std::string> expected = {
-        "writeString \"0\"", "writeInt32 0", "writeInt32 1",
-        "writeString \"1\"", "writeInt32 1", "writeDouble 1.5",
-        "writeString \"2\"", "writeInt32 2", "writeString \"文字\"",
-        "writeString \"3\"", "writeInt32 3", "writeBool true",
-        "writeString \"4\"", "writeInt32 4", "writePoint2d (1, 2)",
-        "writeString \"5\"", "writeInt32 5", "writePoint3d (1, 2, 3)",
-        "writeString \"6\"", "writeInt32 6", "writeVector2d (0, 1)",
-        "writeString \"7\"", "writeInt32 7", "writeVector3d (0, 0, 1)",
-        "writeString \"8\"", "writeInt32 8", "writeSoftPointerId null",
-        "writeString \"9\"", "writeInt32 9", "writeHardPointerId null",
-    };
-    EXPECT_EQ(valueLines, expected);
+    // clang-format off
+    EXPECT_EQ(valueLines, qxtest::ItemLines({
+        L"0", 0, 1, L"1", 1, 1.5, L"2", 2, L"文字", L"3", 3, true,
+        L"4", 4, AcGePoint2d(1, 2), L"5", 5, AcGePoint3d(1, 2, 3), L"6", 6, AcGeVector2d(0, 1),
+        L"7", 7, AcGeVector3d(0, 0, 1), L"8", 8, AcDbSoftPointerId(), L"9", 9, AcDbHardPointerId()}));
+    // clang-format on
 }
 
 TEST_F(DataTreeStreamTest, ARoundTripIsLosslessAndTheSecondFilingIsIdentical)
@@ -118,7 +91,7 @@ TEST_F(DataTreeStreamTest, ARoundTripIsLosslessAndTheSecondFilingIsIdentical)
 TEST_F(DataTreeStreamTest, DataWithoutAHeaderIsStillRead)
 {
     headless::RecordingDwgFiler filer;
-    Write(filer, {3, L"x", 0, 10, L"y", 0, 11, L"z", 0, 12, 0});  // the root's value count first
+    qxtest::WriteItems(filer, {3, L"x", 0, 10, L"y", 0, 11, L"z", 0, 12, 0});  // the root's value count first
     filer.rewind();
     TreeTestEntity entity;
     EXPECT_TRUE(entity.TreeIn(&filer));
@@ -132,7 +105,7 @@ TEST_F(DataTreeStreamTest, DataWithoutAHeaderIsStillRead)
 TEST_F(DataTreeStreamTest, ANewerTreeFormatIsNotRead)
 {
     headless::RecordingDwgFiler filer;
-    Write(filer, {-1001, 2, 1, L"k", 0, 1, 0});
+    qxtest::WriteItems(filer, {-1001, 2, 1, L"k", 0, 1, 0});
     filer.rewind();
     TreeTestEntity entity;
     entity.GetNode(L"")->SetValue(L"kept", 1);
@@ -152,11 +125,11 @@ TEST_F(DataTreeStreamTest, ValueCountLimitIs4096)
     for (const auto& row : rows) {
         SCOPED_TRACE(row.what);
         headless::RecordingDwgFiler filer;
-        Write(filer, {-1001, 1, row.declared});
+        qxtest::WriteItems(filer, {-1001, 1, row.declared});
         for (int i = 0; row.accepted && i < row.declared; ++i) {
             AcString key;
             key.format(L"k%d", i);
-            Write(filer, {key.kwszPtr(), 0, i});
+            qxtest::WriteItems(filer, {key.kwszPtr(), 0, i});
         }
         filer.writeInt32(0);
         filer.rewind();
@@ -170,7 +143,8 @@ TEST_F(DataTreeStreamTest, ValueCountLimitIs4096)
 TEST_F(DataTreeStreamTest, AnUnknownTagEndsTheNodeKeepingWhatWasRead)
 {
     headless::RecordingDwgFiler filer;
-    Write(filer, {-1001, 1, 3, L"first", 0, 1, L"second", 10, 2, L"third", 0, 3, 0});  // there is no type 10
+    // There is no type 10.
+    qxtest::WriteItems(filer, {-1001, 1, 3, L"first", 0, 1, L"second", 10, 2, L"third", 0, 3, 0});
     filer.rewind();
     TreeTestEntity entity;
     entity.AddNode(L"child");
@@ -182,7 +156,7 @@ TEST_F(DataTreeStreamTest, AnUnknownTagEndsTheNodeKeepingWhatWasRead)
 TEST_F(DataTreeStreamTest, RepeatedKeysAndNamesKeepTheFirst)
 {
     headless::RecordingDwgFiler filer;
-    Write(filer, {-1001, 1, 2, L"k", 0, 1, L"k", 0, 2, 2, L"c", 1, L"v", 0, 7, 0, L"c", 0, 0});
+    qxtest::WriteItems(filer, {-1001, 1, 2, L"k", 0, 1, L"k", 0, 2, 2, L"c", 1, L"v", 0, 7, 0, L"c", 0, 0});
     filer.rewind();
     TreeTestEntity entity;
     EXPECT_TRUE(entity.TreeIn(&filer));
@@ -197,7 +171,7 @@ TEST_F(DataTreeStreamTest, RepeatedKeysAndNamesKeepTheFirst)
 TEST_F(DataTreeStreamTest, BadChildCountsEmptyTheChildren)
 {
     headless::RecordingDwgFiler filer;
-    Write(filer, {-1001, 1, 0, 5000});
+    qxtest::WriteItems(filer, {-1001, 1, 0, 5000});
     filer.rewind();
     TreeTestEntity entity;
     entity.AddNode(L"old");
@@ -249,11 +223,11 @@ TEST_F(DataTreeStreamTest, TheDeepestTreeThatCanBeBuiltReadsBackWhole)
 std::vector<std::uint8_t> TooDeepStream(std::size_t* refusedAt)
 {
     headless::MemoryDwgFiler filer;
-    Write(filer, {-1001, 1, 0, 2});
+    qxtest::WriteItems(filer, {-1001, 1, 0, 2});
     for (int level = 1; level <= 256; ++level)
-        Write(filer, {L"n", 0, 1});
+        qxtest::WriteItems(filer, {L"n", 0, 1});
     *refusedAt = filer.bytes().size();
-    Write(filer, {L"n", 1, L"x", 0, 7, 0, L"after", 1, L"y", 0, 8, 0});
+    qxtest::WriteItems(filer, {L"n", 1, L"x", 0, 7, 0, L"after", 1, L"y", 0, 8, 0});
     return filer.bytes();
 }
 

@@ -5,25 +5,28 @@
 #include "headless/RecordingDwgFiler.h"
 
 namespace qxtest {
+namespace {
+
+struct ItemWriter {
+    AcDbDwgFiler& filer;
+    void operator()(int value) { filer.writeInt32(value); }
+    void operator()(double value) { filer.writeDouble(value); }
+    void operator()(bool value) { filer.writeBool(value); }
+    void operator()(const wchar_t* value) { filer.writeString(AcString(value)); }
+    void operator()(const AcGePoint2d& value) { filer.writePoint2d(value); }
+    void operator()(const AcGePoint3d& value) { filer.writePoint3d(value); }
+    void operator()(const AcGeVector2d& value) { filer.writeVector2d(value); }
+    void operator()(const AcGeVector3d& value) { filer.writeVector3d(value); }
+    void operator()(const AcDbSoftPointerId& value) { filer.writeSoftPointerId(value); }
+    void operator()(const AcDbHardPointerId& value) { filer.writeHardPointerId(value); }
+};
+
+}  // namespace
 
 void WriteItems(AcDbDwgFiler& filer, const std::vector<FilerItem>& items)
 {
-    for (const FilerItem& item : items) {
-        if (const int* i = std::get_if<int>(&item))
-            filer.writeInt32(*i);
-        else if (const double* d = std::get_if<double>(&item))
-            filer.writeDouble(*d);
-        else if (const bool* b = std::get_if<bool>(&item))
-            filer.writeBool(*b);
-        else if (const wchar_t* const* text = std::get_if<const wchar_t*>(&item))
-            filer.writeString(AcString(*text));
-        else if (const AcGePoint3d* point = std::get_if<AcGePoint3d>(&item))
-            filer.writePoint3d(*point);
-        else if (const AcGeVector3d* vector = std::get_if<AcGeVector3d>(&item))
-            filer.writeVector3d(*vector);
-        else
-            filer.writeSoftPointerId(std::get<AcDbSoftPointerId>(item));
-    }
+    for (const FilerItem& item : items)
+        std::visit(ItemWriter{filer}, item);
 }
 
 std::vector<std::string> ItemLines(const std::vector<FilerItem>& items)
