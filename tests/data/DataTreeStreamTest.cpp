@@ -21,6 +21,19 @@ std::vector<std::string> WrittenLines(const TreeTestEntity& entity)
     return filer.lines();
 }
 
+// Files source, reads it into copy with nothing left over, and files copy to the same bytes.
+void ExpectReadBackWhole(const TreeTestEntity& source, TreeTestEntity& copy)
+{
+    headless::MemoryDwgFiler written;
+    ASSERT_TRUE(source.TreeOut(&written));
+    headless::MemoryDwgFiler reader(written.bytes(), AcDb::kFileFiler, nullptr);
+    ASSERT_TRUE(copy.TreeIn(&reader));
+    EXPECT_EQ(reader.remaining(), 0u);
+    headless::MemoryDwgFiler again;
+    ASSERT_TRUE(copy.TreeOut(&again));
+    EXPECT_EQ(again.bytes(), written.bytes());
+}
+
 TEST_F(DataTreeStreamTest, SmallTreesWriteTheirCountsNamesAndValues)
 {
     TreeTestEntity empty;
@@ -64,13 +77,8 @@ TEST_F(DataTreeStreamTest, ARoundTripIsLosslessAndTheSecondFilingIsIdentical)
     record->SetValue(L"name", L"北立面");
     record->AddChild(L"Label")->SetValue(L"pos", AcGePoint3d(10, 20, 0));
     source.GetNode(L"")->SetValue(L"flag", false);
-
-    headless::MemoryDwgFiler first;
-    ASSERT_TRUE(source.TreeOut(&first));
-    headless::MemoryDwgFiler reader(first.bytes(), AcDb::kFileFiler, nullptr);
     TreeTestEntity copy;
-    ASSERT_TRUE(copy.TreeIn(&reader));
-    EXPECT_EQ(reader.remaining(), 0u);
+    ExpectReadBackWhole(source, copy);
     EXPECT_EQ(copy.TreeReadVersion(), 1);
 
     double width = 0;
@@ -82,10 +90,6 @@ TEST_F(DataTreeStreamTest, ARoundTripIsLosslessAndTheSecondFilingIsIdentical)
     EXPECT_TRUE(copy.GetNode(L"Record")->GetValue(L"name", name) && name == AcString(L"北立面"));
     EXPECT_TRUE(copy.GetNode(L"Record")->GetChild(L"Label")->GetValue(L"pos", pos) && pos == AcGePoint3d(10, 20, 0));
     EXPECT_TRUE(copy.GetNode(L"root")->GetValue(L"flag", flag) && !flag);
-
-    headless::MemoryDwgFiler second;
-    ASSERT_TRUE(copy.TreeOut(&second));
-    EXPECT_EQ(second.bytes(), first.bytes());
 }
 
 TEST_F(DataTreeStreamTest, DataWithoutAHeaderIsStillRead)
@@ -203,19 +207,11 @@ TEST_F(DataTreeStreamTest, TheDeepestTreeThatCanBeBuiltReadsBackWhole)
     node->SetValue(L"bottom", 256);
     EXPECT_EQ(node->AddChild(L"n"), nullptr);  // a 257th level is refused, and nothing changes
     EXPECT_TRUE(node->GetAllChildNames().empty());
-
-    headless::MemoryDwgFiler written;
-    ASSERT_TRUE(source.TreeOut(&written));
-    headless::MemoryDwgFiler reader(written.bytes(), AcDb::kFileFiler, nullptr);
     TreeTestEntity copy;
-    ASSERT_TRUE(copy.TreeIn(&reader));
-    EXPECT_EQ(reader.remaining(), 0u);
+    ExpectReadBackWhole(source, copy);
     bool onlyTheChain = false;
     EXPECT_EQ(ChainLength(copy, onlyTheChain), 256);
     EXPECT_TRUE(onlyTheChain);
-    headless::MemoryDwgFiler again;
-    copy.TreeOut(&again);
-    EXPECT_EQ(again.bytes(), written.bytes());
 }
 
 // A chain of 257 nodes below the root, whose last holds a value; the root has a second
