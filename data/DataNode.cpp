@@ -17,6 +17,8 @@ struct DataNode::Record {
     }
 
     AcString name;
+    // How many levels below the node that started its tree (a node made on its own) it sits.
+    int depth = 0;
     std::unordered_map<AcString, DataNode*> children;  // owned
     std::unordered_map<AcString, std::shared_ptr<IAnyData>> values;
     AcDbEntity* ownerEntity = nullptr;  // not owned
@@ -79,8 +81,11 @@ DataNode* DataNode::AddChild(const AcString& name)
     auto found = m_record->children.find(name);
     if (found != m_record->children.end())
         return found->second;
+    if (m_record->depth >= kMaxDepth)
+        return nullptr;
     AssertWritable();
     auto* child = new DataNode(name);
+    child->m_record->depth = m_record->depth + 1;
     child->SetOwnerEntity(m_record->ownerEntity);
     m_record->children.emplace(name, child);
     return child;
@@ -212,19 +217,16 @@ bool DataNode::DataOut(IDataIO* io) const
 
 bool DataNode::DataIn(IDataIO* io)
 {
-    return DataIn(io, 0);
+    return Read(io) == Reading::kWhole;
 }
 
-bool DataNode::DataIn(IDataIO* io, int depth)
+DataNode::Reading DataNode::Read(IDataIO* io)
 {
-    // Every level of a hostile stream would cost a stack frame; real trees are a few deep.
-    if (depth > kMaxDepth)
-        return false;
     Adesk::Int32 valueCount = 0;
     io->Read(valueCount);
     m_record->values.clear();
     if (valueCount < 0 || valueCount > kMaxValueCount)
-        return false;
+        return Reading::kNodeRefused;
     for (Adesk::Int32 i = 0; i < valueCount; ++i) {
         AcString key;
         Adesk::Int32 tag = 0;
@@ -233,7 +235,7 @@ bool DataNode::DataIn(IDataIO* io, int depth)
         // An unknown tag means the rest of the node cannot be parsed: keep what was read.
         std::shared_ptr<IAnyData> value = CreateAnyDataForTag(tag);
         if (value == nullptr)
-            return false;
+            return Reading::kNodeRefused;
         value->DataIn(io);
         m_record->values.emplace(key, value);  // a repeated key keeps the earlier value
     }
@@ -242,15 +244,22 @@ bool DataNode::DataIn(IDataIO* io, int depth)
     io->Read(childCount);
     m_record->ClearChildren();
     if (childCount < 0 || childCount > kMaxChildCount)
-        return false;
+        return Reading::kNodeRefused;
+    // A node at the deepest level has no children: a stream that gives it some is not one
+    // this tree wrote, and where its children end cannot be known without following them.
+    if (childCount > 0 && m_record->depth >= kMaxDepth)
+        return Reading::kStreamAbandoned;
     for (Adesk::Int32 i = 0; i < childCount; ++i) {
         AcString name;
         io->Read(name);
         auto* child = new DataNode(name);
+        child->m_record->depth = m_record->depth + 1;
         child->SetOwnerEntity(m_record->ownerEntity);
-        child->DataIn(io, depth + 1);  // a child that fails still counts as read
+        const Reading reading = child->Read(io);  // a refused child still counts as read
         if (!m_record->children.emplace(name, child).second)
             delete child;  // a repeated name keeps the earlier node
+        if (reading == Reading::kStreamAbandoned)
+            return Reading::kStreamAbandoned;
     }
-    return true;
+    return Reading::kWhole;
 }

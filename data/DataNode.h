@@ -21,7 +21,9 @@ public:
     // Limits on the counts of one node in a stream; larger counts are hostile data.
     static constexpr Adesk::Int32 kMaxValueCount = 4096;
     static constexpr Adesk::Int32 kMaxChildCount = 4096;
-    // Deepest nesting read from a stream; deeper nodes are refused like bad counts.
+    // The deepest level a node may sit at (a node made on its own is at level 0). Reading
+    // and writing recurse once per level, so a hostile stream must not choose the depth;
+    // the tree refuses to grow deeper than its reader accepts, so every tree reads back.
     static constexpr int kMaxDepth = 256;
 
     explicit DataNode(const AcString& name);
@@ -36,6 +38,7 @@ public:
     void SetOwnerEntity(AcDbEntity* owner);
 
     // Find-or-create; an existing child is returned unchanged without a write notification.
+    // Null, with nothing changed, when this node is at kMaxDepth.
     DataNode* AddChild(const AcString& name);
     DataNode* GetChild(const AcString& name) const;
     // Deletes the child with its subtree; false when there is none.
@@ -73,12 +76,17 @@ public:
 
     // The node stream: value count, (key, tag, payload) per value, child count, (name,
     // child stream) per child. Values and children are written in key order.
+    // A bad count or an unknown tag ends the read of that node only; its parent goes on
+    // with the next child. A stream that nests deeper than kMaxDepth cannot be followed:
+    // the read stops there, every level answers false and the rest of the stream is left
+    // unread, never taken for names and values.
     bool DataIn(IDataIO* io);
     bool DataOut(IDataIO* io) const;
 
 private:
     struct Record;
-    bool DataIn(IDataIO* io, int depth);
+    enum class Reading { kWhole, kNodeRefused, kStreamAbandoned };
+    Reading Read(IDataIO* io);
     template <typename Value, typename T>
     void StoreValue(const AcString& key, const T& value) const;
     template <typename Value, typename T>

@@ -42,7 +42,9 @@ public:
 
     // Reads a whole object from the same filer.
     virtual Acad::ErrorStatus ReadObject(AcDbObject* object);
-    // Id vectors: an Int32 count, then the ids in order.
+    // Id vectors: an Int32 count, then the ids in order. A read stops where the data ends,
+    // so a count beyond the data allocates nothing for ids that are not there; a negative
+    // count throws std::length_error ("vector too long").
     virtual void Write(const std::vector<AcDbSoftPointerId>& ids);
     virtual void Read(std::vector<AcDbSoftPointerId>& ids);
     virtual void Write(const std::vector<AcDbHardPointerId>& ids);

@@ -1,7 +1,8 @@
 // Feeds arbitrary bytes to the data tree reader through a memory filer. Whatever the bytes,
-// the read must neither crash nor read out of bounds nor allocate without bound, and a tree
-// that was read must file out again.
+// the read must neither crash nor read out of bounds nor allocate without bound, and
+// whatever tree came of them must file out, read back whole and file out the same again.
 #include <cstdint>
+#include <cstdlib>
 #include <vector>
 
 #include "data/DataNodeRoot.h"
@@ -26,5 +27,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     tree.Read(&reader);
     headless::MemoryDwgFiler writer;
     tree.Write(&writer);
+
+    headless::MemoryDwgFiler again(writer.bytes(), AcDb::kFileFiler, nullptr);
+    FuzzTree copy;
+    if (!copy.Read(&again) || again.remaining() != 0)
+        std::abort();  // a tree this module wrote must read back whole
+    headless::MemoryDwgFiler rewriter;
+    copy.Write(&rewriter);
+    if (rewriter.bytes() != writer.bytes())
+        std::abort();
     return 0;
 }

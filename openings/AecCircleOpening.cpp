@@ -2,6 +2,8 @@
 #include "AecCircleOpening.h"
 
 #include <algorithm>
+#include <cmath>
+#include <iterator>
 
 #include "acgi.h"
 #include "acutads.h"
@@ -17,6 +19,14 @@ namespace {
 const ACHAR* const kRecordNode = L"CircleOpeningData";
 // A grip dragged onto the centre must not collapse the circle.
 constexpr double kMinimumRadius = 1e-6;
+
+bool IsFinite(const TextBaseLabel& label)
+{
+    const AcGePoint3d& p = label.GetPosition();
+    const AcGeVector3d d = label.GetTextDirX();
+    const double values[] = {p.x, p.y, p.z, label.GetHeight(), d.x, d.y, d.z};
+    return std::all_of(std::begin(values), std::end(values), [](double v) { return std::isfinite(v); });
+}
 
 enum CircleGrip : Adesk::IntPtr { kCenterGrip = 0, kPlusUGrip, kPlusVGrip, kMinusUGrip, kMinusVGrip, kGripCount };
 
@@ -78,6 +88,8 @@ CircleOpeningData AecCircleOpening::GetData() const
 Acad::ErrorStatus AecCircleOpening::SetData(const CircleOpeningData& data)
 {
     assertWriteEnabled();
+    if (!IsFinite(data.titleLabel))
+        return Acad::eInvalidInput;
     m_imp->data.CopyFrom(&data);
     SaveToNode();
     return Acad::eOk;
@@ -94,9 +106,12 @@ void AecCircleOpening::LoadFromNode()
         m_imp->data.LoadFromNodeData(node);
 }
 
+// A null filer is answered before the host circle's own filing would use it.
 Acad::ErrorStatus AecCircleOpening::dwgOutFields(AcDbDwgFiler* filer) const
 {
     assertReadEnabled();
+    if (filer == nullptr || m_imp == nullptr)
+        return Acad::eNullObjectPointer;
     const Acad::ErrorStatus es = AcDbCircle::dwgOutFields(filer);
     if (es != Acad::eOk)
         return es;
@@ -108,6 +123,8 @@ Acad::ErrorStatus AecCircleOpening::dwgOutFields(AcDbDwgFiler* filer) const
 Acad::ErrorStatus AecCircleOpening::dwgInFields(AcDbDwgFiler* filer)
 {
     assertWriteEnabled();
+    if (filer == nullptr || m_imp == nullptr)
+        return Acad::eNullObjectPointer;
     const Acad::ErrorStatus es = AcDbCircle::dwgInFields(filer);
     if (es != Acad::eOk)
         return es;

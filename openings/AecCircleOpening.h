@@ -19,7 +19,9 @@ public:
     AecCircleOpening();
     ~AecCircleOpening() override;
 
-    // The record (a copy), and its replacement, which is written into the tree.
+    // The record (a copy), and its replacement, which is written into the tree. A title
+    // whose position, height or direction is not finite is refused (eInvalidInput) and the
+    // record stays as it was.
     CircleOpeningData GetData() const;
     Acad::ErrorStatus SetData(const CircleOpeningData& data);
 

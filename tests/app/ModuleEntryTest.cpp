@@ -1,11 +1,11 @@
-// The module entry: loading Quarvo.dbx by path registers its classes in order and prints
-// the load message; unloading deletes them in the tear-down order.
+// The module entry: loading Quarvo.dbx by path registers its classes as listed here, in
+// order, and prints the load message; unloading deletes them in the tear-down order.
 #include <gtest/gtest.h>
 
-#include <algorithm>
+#include <map>
+#include <memory>
 
 #include "app/BuildStamp.h"
-#include "app/ClassRegistration.h"
 #include "headless/CommandLine.h"
 #include "headless/RegistryJournal.h"
 #include "headless/HostError.h"
@@ -32,51 +32,86 @@ bool IsLoadMessage(const std::wstring& text)
     return true;
 }
 
-std::vector<std::wstring> Names(const std::vector<AcString>& list)
+// The module's runtime classes as the host must hold them once the module is loaded. A
+// class that joins the module adds its row here; its steps place it in the registration
+// and tear-down orders of the whole module, among the classes listed.
+struct ModuleClass {
+    const wchar_t* name;
+    const wchar_t* parent;
+    const wchar_t* dxfName;  // null for a plain registration: no DXF or application name
+    int dwgVersion;
+    int maintenanceVersion;
+    int proxyFlags;
+    bool constructor;
+    int registrationStep;
+    int tearDownStep;
+};
+
+const ModuleClass kModuleClasses[] = {
+    // name, parent, DXF name, versions, proxy flags, constructor, registration and tear-down steps
+    {L"QxPolylineBasedCurve", L"AcDbCurve", nullptr, 0, 0, 0, false, 3, 10},
+    {L"AecDivisionLine", L"QxPolylineBasedCurve", L"QX_DIVISION_LINE", 33, 327, 895, true, 4, 5},
+    {L"AecOverlapLine", L"QxPolylineBasedCurve", L"QX_OVERLAP_LINE", 33, 327, 895, true, 5, 6},
+    {L"AecStructuralLine", L"QxPolylineBasedCurve", L"QX_STRUCTURAL_LINE", 33, 327, 895, true, 6, 7},
+    {L"AecCircleOpening", L"AcDbCircle", L"QX_CIRCLE_OPENING", 33, 327, 895, true, 13, 12},
+};
+
+// The class names ordered by one of the steps.
+std::vector<std::wstring> NamesInOrderOf(int ModuleClass::*step)
 {
+    std::map<int, std::wstring> byStep;
+    for (const ModuleClass& row : kModuleClasses)
+        byStep[row.*step] = row.name;
     std::vector<std::wstring> names;
-    for (const AcString& s : list)
-        names.push_back(s.wstr());
+    for (const auto& entry : byStep)
+        names.push_back(entry.second);
     return names;
 }
 
-TEST(ModuleEntryTest, LoadRegistersInOrderAndUnloadDeletesInTearDownOrder)
+// What the registry holds for a class, against its row.
+void ExpectRegisteredAsListed(const ModuleClass& row)
 {
-    const auto registration = Names(Quarvo::RegistrationOrder());
-    const auto tearDown = Names(Quarvo::TearDownOrder());
-    // Both tables name the same classes.
-    auto sortedRegistration = registration;
-    auto sortedTearDown = tearDown;
-    std::sort(sortedRegistration.begin(), sortedRegistration.end());
-    std::sort(sortedTearDown.begin(), sortedTearDown.end());
-    EXPECT_EQ(sortedRegistration, sortedTearDown);
+    SCOPED_TRACE(headless::toUtf8(row.name));
+    const AcRxClass* cls = acrxFindAcRxClass(row.name);
+    ASSERT_NE(cls, nullptr);
+    ASSERT_NE(cls->myParent(), nullptr);
+    EXPECT_STREQ(cls->myParent()->name(), row.parent);
+    EXPECT_STREQ(cls->dxfName(), row.dxfName);
+    EXPECT_STREQ(cls->appName(), row.dxfName != nullptr ? L"QX_AEC_DB_APP" : nullptr);
+    EXPECT_EQ(cls->proxyFlags(), row.proxyFlags);
+    int dwgVersion = -1;
+    int maintenanceVersion = -1;
+    cls->getClassVersion(dwgVersion, maintenanceVersion);
+    EXPECT_EQ(dwgVersion, row.dwgVersion);
+    EXPECT_EQ(maintenanceVersion, row.maintenanceVersion);
+    std::unique_ptr<AcRxObject> made(cls->create());
+    EXPECT_EQ(made != nullptr, row.constructor);
+    EXPECT_TRUE(made == nullptr || made->isA() == cls);
+}
 
+TEST(ModuleEntryTest, LoadRegistersTheClassesInOrderAndUnloadDeletesThemInTearDownOrder)
+{
     headless::RegistryJournal journal;
     headless::CommandLineCapture capture;
     ASSERT_TRUE(acrxDynamicLinker->loadModule(kModule, false)) << capture.utf8();
-    EXPECT_EQ(journal.created(), registration);
-    for (const std::wstring& name : registration) {
-        const AcRxClass* cls = acrxFindAcRxClass(name.c_str());
-        ASSERT_NE(cls, nullptr) << headless::toUtf8(name);
-        if (cls->dxfName() != nullptr) {
-            EXPECT_STREQ(cls->appName(), Quarvo::kApplicationName);
-        }
-    }
+    EXPECT_EQ(journal.created(), NamesInOrderOf(&ModuleClass::registrationStep));
+    for (const ModuleClass& row : kModuleClasses)
+        ExpectRegisteredAsListed(row);
     EXPECT_TRUE(IsLoadMessage(capture.text())) << capture.utf8();
 
     // A second initialisation finds every class registered and changes nothing.
     std::vector<const AcRxClass*> before;
-    for (const std::wstring& name : registration)
-        before.push_back(acrxFindAcRxClass(name.c_str()));
+    for (const ModuleClass& row : kModuleClasses)
+        before.push_back(acrxFindAcRxClass(row.name));
     EXPECT_EQ(acrxDynamicLinker->sendAppMessage(kModule, AcRx::kInitAppMsg), AcRx::kRetOK);
-    EXPECT_EQ(journal.created(), registration);
-    for (std::size_t i = 0; i < registration.size(); ++i)
-        EXPECT_EQ(acrxFindAcRxClass(registration[i].c_str()), before[i]);
+    EXPECT_EQ(journal.created(), NamesInOrderOf(&ModuleClass::registrationStep));
+    for (std::size_t i = 0; i < before.size(); ++i)
+        EXPECT_EQ(acrxFindAcRxClass(kModuleClasses[i].name), before[i]);
 
     ASSERT_TRUE(acrxDynamicLinker->unloadModule(kModule, false));
-    EXPECT_EQ(journal.deleted(), tearDown);
-    for (const std::wstring& name : registration)
-        EXPECT_EQ(acrxFindAcRxClass(name.c_str()), nullptr) << headless::toUtf8(name);
+    EXPECT_EQ(journal.deleted(), NamesInOrderOf(&ModuleClass::tearDownStep));
+    for (const ModuleClass& row : kModuleClasses)
+        EXPECT_EQ(acrxFindAcRxClass(row.name), nullptr) << headless::toUtf8(row.name);
 }
 
 TEST(ModuleEntryTest, AModuleClassRegistersOnceAndRefusesAnImpostor)

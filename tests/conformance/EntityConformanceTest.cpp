@@ -1,5 +1,6 @@
 // What every entity of the module promises the host: a default instance is valid; filing
-// is lossless and byte-stable; a newer class version is refused; transform then inverse
+// is lossless and byte-stable, in memory and through a drawing file; a null filer is
+// refused; a newer class version is refused and kept as a proxy; transform then inverse
 // restores the geometry; extents contain the grips; a zero grip move changes nothing; the
 // draw stops on an aborted regeneration; undo restores the state.
 #include <gtest/gtest.h>
@@ -68,17 +69,28 @@ protected:
 
 TYPED_TEST_SUITE(EntityConformanceTest, ConformanceTypes);
 
+// Valid: what the host needs of a default entity, the kind it makes by the class's
+// constructor when it reads a drawing. It is of its class, files, and its bytes read back
+// into another default; reading may settle what a default leaves open (a line without
+// length gets the shortest length), and what it settled files the same ever after. It
+// lists under its DXF name and draws.
 TYPED_TEST(EntityConformanceTest, ADefaultEntityIsValid)
 {
-    AcDbObjectId id;
-    {
-        auto* fresh = new TypeParam();
-        id = this->working.Add(fresh);
-    }
-    TypeParam* entity = this->Open(id, AcDb::kForRead);
-    EXPECT_FALSE(qxtest::ListOutput(entity).empty());
-    qxtest::Draw(entity);
-    EXPECT_FALSE(qxtest::FileOut(entity).empty());
+    AcRxObject* made = TypeParam::desc()->create();
+    ASSERT_NE(TypeParam::cast(made), nullptr);
+    EXPECT_EQ(made->isA(), TypeParam::desc());
+    TypeParam* entity = this->Open(this->working.Add(TypeParam::cast(made)), AcDb::kForRead);
+    const qxtest::Bytes bytes = qxtest::FileOut(entity);
+    TypeParam* copy = this->Open(this->working.Add(new TypeParam()), AcDb::kForWrite);
+    EXPECT_EQ(qxtest::FileIn(copy, bytes), Acad::eOk);
+    const qxtest::Bytes settled = qxtest::FileOut(copy);
+    EXPECT_EQ(qxtest::FileIn(copy, settled), Acad::eOk);
+    EXPECT_EQ(qxtest::FileOut(copy), settled);
+    copy->close();
+    EXPECT_NE(qxtest::ListOutput(entity).find(TypeParam::desc()->dxfName()), std::wstring::npos);
+    headless::RecordingWorldDraw draw;
+    draw.setDatabase(entity->database());
+    EXPECT_TRUE(draw.drawDrawable(entity));
     entity->close();
 }
 
@@ -96,6 +108,43 @@ TYPED_TEST(EntityConformanceTest, FilingIsLosslessAndByteStable)
     EXPECT_EQ(qxtest::FileOut(copy), first);
     EXPECT_TRUE(qxtest::SamePrimitives(qxtest::Draw(copy), drawn, 0.0));
     copy->close();
+}
+
+TYPED_TEST(EntityConformanceTest, ADrawingSavedAndReopenedGivesTheEntityBackAsItWas)
+{
+    AcDbObjectId id;
+    TypeParam* entity = this->AddSample(AcDb::kForRead, &id);
+    const qxtest::Bytes bytes = qxtest::FileOut(entity);
+    const auto drawn = qxtest::Draw(entity);
+    entity->close();
+    std::vector<std::uint8_t> file;
+    ASSERT_EQ(headless::DrawingFile::write(this->working.db(), file), Acad::eOk);
+
+    AcDbDatabase* reopened = nullptr;
+    headless::DrawingReadReport report;
+    ASSERT_EQ(headless::DrawingFile::read(file, reopened, &report), Acad::eOk);
+    std::unique_ptr<AcDbDatabase> owner(reopened);
+    EXPECT_EQ(report.proxies, 0);
+    AcDbObjectId copyId;
+    ASSERT_EQ(reopened->getAcDbObjectId(copyId, false, id.handle()), Acad::eOk);
+    TypeParam* copy = this->Open(copyId, AcDb::kForRead);
+    ASSERT_NE(copy, nullptr);
+    EXPECT_EQ(qxtest::FileOut(copy), bytes);
+    EXPECT_TRUE(qxtest::SamePrimitives(qxtest::Draw(copy), drawn, 0.0));
+    copy->close();
+    std::vector<std::uint8_t> again;
+    ASSERT_EQ(headless::DrawingFile::write(reopened, again), Acad::eOk);
+    EXPECT_EQ(again, file);
+}
+
+TYPED_TEST(EntityConformanceTest, ANullFilerAnswers15InAndOutAndChangesNothing)
+{
+    TypeParam* entity = this->AddSample(AcDb::kForWrite);
+    const qxtest::Bytes before = qxtest::FileOut(entity);
+    EXPECT_EQ(static_cast<int>(entity->dwgOutFields(nullptr)), 15);
+    EXPECT_EQ(static_cast<int>(entity->dwgInFields(nullptr)), 15);
+    EXPECT_EQ(qxtest::FileOut(entity), before);
+    entity->close();
 }
 
 TYPED_TEST(EntityConformanceTest, ANewerClassVersionIsRefused)

@@ -3,6 +3,8 @@
 // integer that was read ahead.
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "data/ArrayDataIoAdapter.h"
 #include "data/DwgFilerIoAdapter.h"
 #include "data/PrefetchDwgFilerIoAdapter.h"
@@ -10,67 +12,67 @@
 
 namespace {
 
-TEST(DwgFilerIoAdapterTest, EachOperationIsOneTypedFilerCall)
+template <typename... T>
+void WriteAll(IDataIO& io, const T&... values)
 {
-    headless::RecordingDwgFiler filer;
-    DwgFilerIoAdapter io(&filer);
-    io.Write(AcString(L"板"));
-    io.Write(AcGePoint2d(1, 2));
-    io.Write(AcGePoint3d(1, 2, 3));
-    io.Write(AcGeVector2d(0, 1));
-    io.Write(AcGeVector3d(0, 0, 1));
-    io.Write(2.5);
-    io.Write(Adesk::UInt32(7));
-    io.Write(Adesk::Int32(-7));
-    io.Write(true);
-    io.Write(AcDbSoftPointerId());
-    io.Write(AcDbHardPointerId());
-    const std::vector<std::string> expected = {
-        "writeString \"板\"", "writePoint2d (1, 2)", "writePoint3d (1, 2, 3)", "writeVector2d (0, 1)",
-        "writeVector3d (0, 0, 1)", "writeDouble 2.5", "writeUInt32 7", "writeInt32 -7", "writeBool true",
-        "writeSoftPointerId null", "writeHardPointerId null",
-    };
-    EXPECT_EQ(filer.lines(), expected);
-
-    filer.rewind();
-    filer.clearLines();
-    AcString s;
-    AcGePoint2d p2;
-    AcGePoint3d p3;
-    AcGeVector2d v2;
-    AcGeVector3d v3;
-    double d = 0;
-    Adesk::UInt32 u = 0;
-    Adesk::Int32 i = 0;
-    bool b = false;
-    AcDbSoftPointerId soft;
-    AcDbHardPointerId hard;
-    io.Read(s);
-    io.Read(p2);
-    io.Read(p3);
-    io.Read(v2);
-    io.Read(v3);
-    io.Read(d);
-    io.Read(u);
-    io.Read(i);
-    io.Read(b);
-    io.Read(soft);
-    io.Read(hard);
-    EXPECT_EQ(filer.filerStatus(), Acad::eOk);
-    EXPECT_EQ(s, AcString(L"板"));
-    EXPECT_EQ(p3, AcGePoint3d(1, 2, 3));
-    EXPECT_EQ(v2, AcGeVector2d(0, 1));
-    EXPECT_EQ(d, 2.5);
-    EXPECT_EQ(u, 7u);
-    EXPECT_EQ(i, -7);
-    EXPECT_TRUE(b);
-    ASSERT_EQ(filer.lines().size(), expected.size());
-    EXPECT_EQ(filer.lines()[0].rfind("readString", 0), 0u);
-    EXPECT_EQ(filer.lines()[9].rfind("readSoftPointerId", 0), 0u);
-    EXPECT_EQ(filer.lines()[10].rfind("readHardPointerId", 0), 0u);
+    (io.Write(values), ...);
 }
 
-TEST(DwgFilerIoAdapterTest, IdVectorsAreACountThenTheIds)
+template <typename... T>
+void ReadAll(IDataIO& io, T&... values)
+{
+    (io.Read(values), ...);
+}
+
+// One value of every type a channel carries, written and read in one order.
+struct EveryType {
+    AcString s = L"板";
+    AcGePoint2d p2{1, 2};
+    AcGePoint3d p3{1, 2, 3};
+    AcGeVector2d v2{0, 1};
+    AcGeVector3d v3{0, 0, 1};
+    double d = 2.5;
+    Adesk::UInt32 u = 0xFFFFFFFFu;
+    Adesk::Int32 i = -7;
+    bool b = true;
+
+    void Write(IDataIO& io) const { WriteAll(io, s, p2, p3, v2, v3, d, u, i, b); }
+    void Read(IDataIO& io) { ReadAll(io, s, p2, p3, v2, v3, d, u, i, b); }
+    bool operator==(const EveryType& o) const
+    {
+        return std::tie(s, p2, p3, v2, v3, d, u, i, b) == std::tie(o.s, o.p2, o.p3, o.v2, o.v3, o.d, o.u, o.i, o.b);
+    }
+};
+
+const EveryType kBlank{L"", {0, 0}, {0, 0, 0}, {1, 0}, {1, 0, 0}, 0, 0, 0, false};
+
+TEST(DataChannelTest, EveryTypeIsOneTypedFilerCallAndRoundTripsThroughBothChannels)
+{
+    headless::RecordingDwgFiler filer;
+    DwgFilerIoAdapter overFiler(&filer);
+    EveryType().Write(overFiler);
+    overFiler.Write(AcDbSoftPointerId());
+    overFiler.Write(AcDbHardPointerId());
+    const std::vector<std::string> expected = {
+        "writeString \"板\"",      "writePoint2d (1, 2)",     "writePoint3d (1, 2, 3)",  "writeVector2d (0, 1)",
+        "writeVector3d (0, 0, 1)", "writeDouble 2.5",         "writeUInt32 4294967295",  "writeInt32 -7",
+        "writeBool true",          "writeSoftPointerId null", "writeHardPointerId null",
+    };
+    EXPECT_EQ(filer.lines(), expected);
+    filer.rewind();
+    EveryType fromFiler = kBlank;
+    fromFiler.Read(overFiler);
+    EXPECT_EQ(filer.filerStatus(), Acad::eOk);
+    EXPECT_TRUE(fromFiler == EveryType());
+
+    ArrayDataIoAdapter inMemory;
+    EveryType().Write(inMemory);
+    EveryType fromMemory = kBlank;
+    fromMemory.Read(inMemory);
+    EXPECT_TRUE(fromMemory == EveryType());
+}
+
+TEST(DataChannelTest, IdVectorsAreACountThenTheIdsAndHostileCountsAllocateNothing)
 {
     headless::RecordingDwgFiler filer;
     DwgFilerIoAdapter io(&filer);
@@ -79,7 +81,6 @@ TEST(DwgFilerIoAdapterTest, IdVectorsAreACountThenTheIds)
     const std::vector<std::string> expected = {"writeInt32 2", "writeSoftPointerId null", "writeSoftPointerId null",
                                                "writeInt32 1", "writeHardPointerId null"};
     EXPECT_EQ(filer.lines(), expected);
-
     filer.rewind();
     std::vector<AcDbSoftPointerId> soft(5);
     std::vector<AcDbHardPointerId> hard;
@@ -87,16 +88,12 @@ TEST(DwgFilerIoAdapterTest, IdVectorsAreACountThenTheIds)
     io.Read(hard);
     EXPECT_EQ(soft.size(), 2u);
     EXPECT_EQ(hard.size(), 1u);
-}
 
-TEST(DwgFilerIoAdapterTest, HostileIdCountsNeitherCrashNorAllocate)
-{
     headless::RecordingDwgFiler negative;
     negative.writeInt32(-1);
     negative.rewind();
-    DwgFilerIoAdapter io(&negative);
-    std::vector<AcDbSoftPointerId> ids;
-    EXPECT_THROW(io.Read(ids), std::length_error);
+    io.SetFiler(&negative);
+    EXPECT_THROW(io.Read(soft), std::length_error);
 
     // A count far beyond the data reads what is there and stops at the filer's failure.
     headless::RecordingDwgFiler huge;
@@ -104,82 +101,34 @@ TEST(DwgFilerIoAdapterTest, HostileIdCountsNeitherCrashNorAllocate)
     huge.writeSoftPointerId(AcDbSoftPointerId());
     huge.rewind();
     io.SetFiler(&huge);
-    io.Read(ids);
-    EXPECT_EQ(ids.size(), 1u);
+    io.Read(soft);
+    EXPECT_EQ(soft.size(), 1u);
     EXPECT_NE(huge.filerStatus(), Acad::eOk);
 }
 
-TEST(ArrayDataIoAdapterTest, CursorsArePerType)
-{
-    ArrayDataIoAdapter io;
-    io.Write(Adesk::Int32(5));
-    io.Write(2.5);
-    io.Write(Adesk::Int32(6));
-    double d = 0;
-    Adesk::Int32 first = 0;
-    Adesk::Int32 second = 0;
-    io.Read(d);
-    io.Read(first);
-    io.Read(second);
-    EXPECT_EQ(d, 2.5);
-    EXPECT_EQ(first, 5);
-    EXPECT_EQ(second, 6);
-}
-
-TEST(ArrayDataIoAdapterTest, ReadingPastTheEndLeavesTheTargetAndAdvances)
+TEST(DataChannelTest, TheInMemoryChannelKeepsACursorPerTypeThatRunsPastTheEnd)
 {
     ArrayDataIoAdapter io;
     Adesk::Int32 target = 42;
-    io.Read(target);
+    io.Read(target);  // nothing there: the target stays, the cursor moves on
     EXPECT_EQ(target, 42);
-    io.Write(Adesk::Int32(9));  // lands at index 0, behind the cursor
+    io.Write(Adesk::Int32(5));  // lands behind the cursor
+    io.Write(2.5);
+    io.Write(Adesk::Int32(6));
+    double d = 0;
+    io.Read(d);
     io.Read(target);
-    EXPECT_EQ(target, 42);
+    EXPECT_EQ(d, 2.5);
+    EXPECT_EQ(target, 6);
 
     io.Reset();
-    io.Write(Adesk::Int32(9));
-    io.Read(target);
-    EXPECT_EQ(target, 9);
-}
-
-TEST(ArrayDataIoAdapterTest, EveryTypeRoundTrips)
-{
-    ArrayDataIoAdapter io;
-    io.Write(true);
     io.Write(false);
-    io.Write(Adesk::UInt32(0xFFFFFFFFu));
-    io.Write(AcString(L"洞口"));
-    io.Write(AcGePoint2d(3, 4));
-    io.Write(AcGePoint3d(5, 6, 7));
-    io.Write(AcGeVector2d(-1, 0));
-    io.Write(AcGeVector3d(0, -1, 0));
-    bool t = false;
-    bool f = true;
-    Adesk::UInt32 u = 0;
-    AcString s;
-    AcGePoint2d p2;
-    AcGePoint3d p3;
-    AcGeVector2d v2;
-    AcGeVector3d v3;
-    io.Read(t);
-    io.Read(f);
-    io.Read(u);
-    io.Read(s);
-    io.Read(p2);
-    io.Read(p3);
-    io.Read(v2);
-    io.Read(v3);
-    EXPECT_TRUE(t);
-    EXPECT_FALSE(f);
-    EXPECT_EQ(u, 0xFFFFFFFFu);
-    EXPECT_EQ(s, AcString(L"洞口"));
-    EXPECT_EQ(p2, AcGePoint2d(3, 4));
-    EXPECT_EQ(p3, AcGePoint3d(5, 6, 7));
-    EXPECT_EQ(v2, AcGeVector2d(-1, 0));
-    EXPECT_EQ(v3, AcGeVector3d(0, -1, 0));
+    bool b = true;
+    io.Read(b);
+    EXPECT_FALSE(b);
 }
 
-TEST(PrefetchAdapterTest, GivesBackTheReadAheadIntegerOnce)
+TEST(DataChannelTest, ThePrefetchAdapterGivesBackTheReadAheadIntegerOnce)
 {
     ArrayDataIoAdapter inner;
     inner.Write(Adesk::Int32(11));

@@ -1,7 +1,8 @@
-// The tree stream: header, node layout, reading of header-less data, limits and unknown
-// tags. The stream is a file format: these transcripts must never change.
+// The tree stream: header, node layout, reading of header-less data, limits, unknown tags
+// and nesting. The stream is a file format: these transcripts must never change.
 #include <gtest/gtest.h>
 
+#include "FilerScript.h"
 #include "TreeTestEntity.h"
 #include "headless/MemoryDwgFiler.h"
 #include "headless/RecordingDwgFiler.h"
@@ -20,26 +21,28 @@ std::vector<std::string> WrittenLines(const TreeTestEntity& entity)
     return filer.lines();
 }
 
-TEST_F(DataTreeStreamTest, AnEmptyRootIsFourIntegers)
+// Files source, reads it into copy with nothing left over, and files copy to the same bytes.
+void ExpectReadBackWhole(const TreeTestEntity& source, TreeTestEntity& copy)
 {
-    TreeTestEntity entity;
-    const std::vector<std::string> expected = {"writeInt32 -1001", "writeInt32 1", "writeInt32 0", "writeInt32 0"};
-    EXPECT_EQ(WrittenLines(entity), expected);
+    headless::MemoryDwgFiler written;
+    ASSERT_TRUE(source.TreeOut(&written));
+    headless::MemoryDwgFiler reader(written.bytes(), AcDb::kFileFiler, nullptr);
+    ASSERT_TRUE(copy.TreeIn(&reader));
+    EXPECT_EQ(reader.remaining(), 0u);
+    headless::MemoryDwgFiler again;
+    ASSERT_TRUE(copy.TreeOut(&again));
+    EXPECT_EQ(again.bytes(), written.bytes());
 }
 
-TEST_F(DataTreeStreamTest, ValuesThenChildrenEachWithTheirNames)
+TEST_F(DataTreeStreamTest, SmallTreesWriteTheirCountsNamesAndValues)
 {
+    TreeTestEntity empty;
+    EXPECT_EQ(WrittenLines(empty), qxtest::ItemLines({-1001, 1, 0, 0}));
+
     TreeTestEntity entity;
     entity.GetNode(L"root")->SetValue(L"a", 5);
     entity.AddNode(L"c");
-    const std::vector<std::string> expected = {
-        "writeInt32 -1001", "writeInt32 1",  // header
-        "writeInt32 1",                      // one value
-        "writeString \"a\"", "writeInt32 0", "writeInt32 5",
-        "writeInt32 1",  // one child
-        "writeString \"c\"", "writeInt32 0", "writeInt32 0",
-    };
-    EXPECT_EQ(WrittenLines(entity), expected);
+    EXPECT_EQ(WrittenLines(entity), qxtest::ItemLines({-1001, 1, 1, L"a", 0, 5, 1, L"c", 0, 0}));
 }
 
 TEST_F(DataTreeStreamTest, EveryValueTypeHasItsTagAndOneCall)
@@ -58,19 +61,12 @@ TEST_F(DataTreeStreamTest, EveryValueTypeHasItsTagAndOneCall)
     node->SetValue(L"9", AcDbHardPointerId());
     const std::vector<std::string> lines = WrittenLines(entity);
     const std::vector<std::string> valueLines(lines.begin() + 6, lines.end() - 1);
-    const std::vector<std::string> expected = {
-        "writeString \"0\"", "writeInt32 0", "writeInt32 1",
-        "writeString \"1\"", "writeInt32 1", "writeDouble 1.5",
-        "writeString \"2\"", "writeInt32 2", "writeString \"文字\"",
-        "writeString \"3\"", "writeInt32 3", "writeBool true",
-        "writeString \"4\"", "writeInt32 4", "writePoint2d (1, 2)",
-        "writeString \"5\"", "writeInt32 5", "writePoint3d (1, 2, 3)",
-        "writeString \"6\"", "writeInt32 6", "writeVector2d (0, 1)",
-        "writeString \"7\"", "writeInt32 7", "writeVector3d (0, 0, 1)",
-        "writeString \"8\"", "writeInt32 8", "writeSoftPointerId null",
-        "writeString \"9\"", "writeInt32 9", "writeHardPointerId null",
-    };
-    EXPECT_EQ(valueLines, expected);
+    // clang-format off
+    EXPECT_EQ(valueLines, qxtest::ItemLines({
+        L"0", 0, 1, L"1", 1, 1.5, L"2", 2, L"文字", L"3", 3, true,
+        L"4", 4, AcGePoint2d(1, 2), L"5", 5, AcGePoint3d(1, 2, 3), L"6", 6, AcGeVector2d(0, 1),
+        L"7", 7, AcGeVector3d(0, 0, 1), L"8", 8, AcDbSoftPointerId(), L"9", 9, AcDbHardPointerId()}));
+    // clang-format on
 }
 
 TEST_F(DataTreeStreamTest, ARoundTripIsLosslessAndTheSecondFilingIsIdentical)
@@ -79,51 +75,27 @@ TEST_F(DataTreeStreamTest, ARoundTripIsLosslessAndTheSecondFilingIsIdentical)
     DataNode* record = source.AddNode(L"Record");
     record->SetValue(L"width", 300.0);
     record->SetValue(L"name", L"北立面");
-    record->SetValue(L"count", 12);
     record->AddChild(L"Label")->SetValue(L"pos", AcGePoint3d(10, 20, 0));
     source.GetNode(L"")->SetValue(L"flag", false);
-
-    headless::MemoryDwgFiler first;
-    ASSERT_TRUE(source.TreeOut(&first));
-    headless::MemoryDwgFiler reader(first.bytes(), AcDb::kFileFiler, nullptr);
     TreeTestEntity copy;
-    ASSERT_TRUE(copy.TreeIn(&reader));
-    EXPECT_EQ(reader.filerStatus(), Acad::eOk);
-    EXPECT_EQ(reader.remaining(), 0u);
+    ExpectReadBackWhole(source, copy);
     EXPECT_EQ(copy.TreeReadVersion(), 1);
 
     double width = 0;
     AcString name;
-    int count = 0;
     AcGePoint3d pos;
     bool flag = true;
     ASSERT_NE(copy.GetNode(L"Record"), nullptr);
-    EXPECT_TRUE(copy.GetNode(L"Record")->GetValue(L"width", width));
-    EXPECT_TRUE(copy.GetNode(L"Record")->GetValue(L"name", name));
-    EXPECT_TRUE(copy.GetNode(L"Record")->GetValue(L"count", count));
-    EXPECT_TRUE(copy.GetNode(L"Record")->GetChild(L"Label")->GetValue(L"pos", pos));
-    EXPECT_TRUE(copy.GetNode(L"root")->GetValue(L"flag", flag));
-    EXPECT_EQ(width, 300.0);
-    EXPECT_EQ(name, AcString(L"北立面"));
-    EXPECT_EQ(count, 12);
-    EXPECT_EQ(pos, AcGePoint3d(10, 20, 0));
-    EXPECT_FALSE(flag);
-
-    headless::MemoryDwgFiler second;
-    ASSERT_TRUE(copy.TreeOut(&second));
-    EXPECT_EQ(second.bytes(), first.bytes());
+    EXPECT_TRUE(copy.GetNode(L"Record")->GetValue(L"width", width) && width == 300.0);
+    EXPECT_TRUE(copy.GetNode(L"Record")->GetValue(L"name", name) && name == AcString(L"北立面"));
+    EXPECT_TRUE(copy.GetNode(L"Record")->GetChild(L"Label")->GetValue(L"pos", pos) && pos == AcGePoint3d(10, 20, 0));
+    EXPECT_TRUE(copy.GetNode(L"root")->GetValue(L"flag", flag) && !flag);
 }
 
 TEST_F(DataTreeStreamTest, DataWithoutAHeaderIsStillRead)
 {
     headless::RecordingDwgFiler filer;
-    filer.writeInt32(3);  // the root's value count: no magic number
-    for (int i = 0; i < 3; ++i) {
-        filer.writeString(AcString(i == 0 ? L"x" : (i == 1 ? L"y" : L"z")));
-        filer.writeInt32(0);
-        filer.writeInt32(10 + i);
-    }
-    filer.writeInt32(0);
+    qxtest::WriteItems(filer, {3, L"x", 0, 10, L"y", 0, 11, L"z", 0, 12, 0});  // the root's value count first
     filer.rewind();
     TreeTestEntity entity;
     EXPECT_TRUE(entity.TreeIn(&filer));
@@ -137,111 +109,58 @@ TEST_F(DataTreeStreamTest, DataWithoutAHeaderIsStillRead)
 TEST_F(DataTreeStreamTest, ANewerTreeFormatIsNotRead)
 {
     headless::RecordingDwgFiler filer;
-    filer.writeInt32(-1001);
-    filer.writeInt32(2);
-    filer.writeInt32(1);
-    filer.writeString(AcString(L"k"));
-    filer.writeInt32(0);
-    filer.writeInt32(1);
+    qxtest::WriteItems(filer, {-1001, 2, 1, L"k", 0, 1, 0});
     filer.rewind();
     TreeTestEntity entity;
     entity.GetNode(L"")->SetValue(L"kept", 1);
     EXPECT_FALSE(entity.TreeIn(&filer));
     EXPECT_EQ(entity.TreeReadVersion(), 2);
-    EXPECT_TRUE(entity.GetNode(L"")->HasKey(L"kept"));
-    EXPECT_FALSE(entity.GetNode(L"")->HasKey(L"k"));
+    EXPECT_EQ(entity.GetNode(L"")->GetAllKeys(), std::vector<AcString>{L"kept"});
     EXPECT_EQ(filer.filerStatus(), Acad::eOk);
-}
-
-// Writes a root with count values "k<i>" = i and no children.
-void WriteRootWithValues(headless::RecordingDwgFiler& filer, int declared, int actual)
-{
-    filer.writeInt32(-1001);
-    filer.writeInt32(1);
-    filer.writeInt32(declared);
-    for (int i = 0; i < actual; ++i) {
-        AcString key;
-        key.format(L"k%d", i);
-        filer.writeString(key);
-        filer.writeInt32(0);
-        filer.writeInt32(i);
-    }
-    filer.writeInt32(0);
-    filer.rewind();
 }
 
 TEST_F(DataTreeStreamTest, ValueCountLimitIs4096)
 {
-    struct Row {
+    const struct {
         const char* what;
         int declared;
         bool accepted;
-        std::size_t keys;
-    };
-    const Row rows[] = {
-        {"at the limit", 4096, true, 4096},
-        {"one above", 4097, false, 0},
-        {"negative", -1, false, 0},
-    };
-    for (const Row& row : rows) {
+    } rows[] = {{"at the limit", 4096, true}, {"one above", 4097, false}, {"negative", -1, false}};
+    for (const auto& row : rows) {
         SCOPED_TRACE(row.what);
         headless::RecordingDwgFiler filer;
-        WriteRootWithValues(filer, row.declared, row.accepted ? row.declared : 0);
+        qxtest::WriteItems(filer, {-1001, 1, row.declared});
+        for (int i = 0; row.accepted && i < row.declared; ++i) {
+            AcString key;
+            key.format(L"k%d", i);
+            qxtest::WriteItems(filer, {key.kwszPtr(), 0, i});
+        }
+        filer.writeInt32(0);
+        filer.rewind();
         TreeTestEntity entity;
         entity.GetNode(L"")->SetValue(L"old", 1);
         EXPECT_EQ(entity.TreeIn(&filer), row.accepted);
-        EXPECT_EQ(entity.GetNode(L"")->GetAllKeys().size(), row.keys);
+        EXPECT_EQ(entity.GetNode(L"")->GetAllKeys().size(), row.accepted ? 4096u : 0u);
     }
 }
 
 TEST_F(DataTreeStreamTest, AnUnknownTagEndsTheNodeKeepingWhatWasRead)
 {
     headless::RecordingDwgFiler filer;
-    filer.writeInt32(-1001);
-    filer.writeInt32(1);
-    filer.writeInt32(3);
-    filer.writeString(AcString(L"first"));
-    filer.writeInt32(0);
-    filer.writeInt32(1);
-    filer.writeString(AcString(L"second"));
-    filer.writeInt32(10);  // no such type
-    filer.writeInt32(2);
-    filer.writeString(AcString(L"third"));
-    filer.writeInt32(0);
-    filer.writeInt32(3);
-    filer.writeInt32(0);
+    // There is no type 10.
+    qxtest::WriteItems(filer, {-1001, 1, 3, L"first", 0, 1, L"second", 10, 2, L"third", 0, 3, 0});
     filer.rewind();
     TreeTestEntity entity;
     entity.AddNode(L"child");
     EXPECT_FALSE(entity.TreeIn(&filer));
-    const auto keys = entity.GetNode(L"")->GetAllKeys();
-    ASSERT_EQ(keys.size(), 1u);
-    EXPECT_EQ(keys[0], AcString(L"first"));
+    EXPECT_EQ(entity.GetNode(L"")->GetAllKeys(), std::vector<AcString>{L"first"});
     EXPECT_NE(entity.GetNode(L"child"), nullptr);  // children were left as they were
 }
 
 TEST_F(DataTreeStreamTest, RepeatedKeysAndNamesKeepTheFirst)
 {
     headless::RecordingDwgFiler filer;
-    filer.writeInt32(-1001);
-    filer.writeInt32(1);
-    filer.writeInt32(2);
-    filer.writeString(AcString(L"k"));
-    filer.writeInt32(0);
-    filer.writeInt32(1);
-    filer.writeString(AcString(L"k"));
-    filer.writeInt32(0);
-    filer.writeInt32(2);
-    filer.writeInt32(2);
-    filer.writeString(AcString(L"c"));
-    filer.writeInt32(1);
-    filer.writeString(AcString(L"v"));
-    filer.writeInt32(0);
-    filer.writeInt32(7);
-    filer.writeInt32(0);
-    filer.writeString(AcString(L"c"));
-    filer.writeInt32(0);
-    filer.writeInt32(0);
+    qxtest::WriteItems(filer, {-1001, 1, 2, L"k", 0, 1, L"k", 0, 2, 2, L"c", 1, L"v", 0, 7, 0, L"c", 0, 0});
     filer.rewind();
     TreeTestEntity entity;
     EXPECT_TRUE(entity.TreeIn(&filer));
@@ -256,10 +175,7 @@ TEST_F(DataTreeStreamTest, RepeatedKeysAndNamesKeepTheFirst)
 TEST_F(DataTreeStreamTest, BadChildCountsEmptyTheChildren)
 {
     headless::RecordingDwgFiler filer;
-    filer.writeInt32(-1001);
-    filer.writeInt32(1);
-    filer.writeInt32(0);
-    filer.writeInt32(5000);
+    qxtest::WriteItems(filer, {-1001, 1, 0, 5000});
     filer.rewind();
     TreeTestEntity entity;
     entity.AddNode(L"old");
@@ -267,26 +183,67 @@ TEST_F(DataTreeStreamTest, BadChildCountsEmptyTheChildren)
     EXPECT_TRUE(entity.GetNode(L"")->GetAllChildNames().empty());
 }
 
-TEST_F(DataTreeStreamTest, HostileNestingAndTruncationNeitherCrashNorLoop)
+// Follows the chain of nodes named "n" below the root: how many there are, and whether
+// every one of them has that one child and no values.
+int ChainLength(const TreeTestEntity& entity, bool& onlyTheChain)
 {
-    // Ten thousand nested children: deeper than any real tree.
-    headless::MemoryDwgFiler deep;
-    deep.writeInt32(-1001);
-    deep.writeInt32(1);
-    for (int i = 0; i < 10000; ++i) {
-        deep.writeInt32(0);
-        deep.writeInt32(1);
-        deep.writeString(AcString(L"n"));
+    onlyTheChain = true;
+    int levels = 0;
+    for (DataNode* node = entity.GetNode(L""); node != nullptr; node = node->GetChild(L"n"), ++levels) {
+        const auto children = node->GetAllChildNames();
+        onlyTheChain = onlyTheChain && children.size() <= 1 && (children.empty() || children[0] == L"n");
     }
-    headless::MemoryDwgFiler reader(deep.bytes(), AcDb::kFileFiler, nullptr);
-    TreeTestEntity entity;
-    entity.TreeIn(&reader);
-    int depth = 0;
-    for (DataNode* node = entity.GetNode(L""); node != nullptr; node = node->GetChild(L"n"))
-        ++depth;
-    EXPECT_LE(depth, DataNode::kMaxDepth + 2);
+    return levels - 1;
+}
 
-    // Every prefix of a valid stream reads without trouble.
+TEST_F(DataTreeStreamTest, TheDeepestTreeThatCanBeBuiltReadsBackWhole)
+{
+    TreeTestEntity source;
+    DataNode* node = source.GetNode(L"");
+    for (int level = 1; level <= 256; ++level) {
+        node = node->AddChild(L"n");
+        ASSERT_NE(node, nullptr) << "level " << level;
+    }
+    node->SetValue(L"bottom", 256);
+    EXPECT_EQ(node->AddChild(L"n"), nullptr);  // a 257th level is refused, and nothing changes
+    EXPECT_TRUE(node->GetAllChildNames().empty());
+    TreeTestEntity copy;
+    ExpectReadBackWhole(source, copy);
+    bool onlyTheChain = false;
+    EXPECT_EQ(ChainLength(copy, onlyTheChain), 256);
+    EXPECT_TRUE(onlyTheChain);
+}
+
+// A chain of 257 nodes below the root, whose last holds a value; the root has a second
+// child "after" holding a value too.
+std::vector<std::uint8_t> TooDeepStream(std::size_t* refusedAt)
+{
+    headless::MemoryDwgFiler filer;
+    qxtest::WriteItems(filer, {-1001, 1, 0, 2});
+    for (int level = 1; level <= 256; ++level)
+        qxtest::WriteItems(filer, {L"n", 0, 1});
+    *refusedAt = filer.bytes().size();
+    qxtest::WriteItems(filer, {L"n", 1, L"x", 0, 7, 0, L"after", 1, L"y", 0, 8, 0});
+    return filer.bytes();
+}
+
+TEST_F(DataTreeStreamTest, AStreamOneLevelTooDeepFailsTheReadAndReadsNoFurther)
+{
+    std::size_t refusedAt = 0;
+    const std::vector<std::uint8_t> bytes = TooDeepStream(&refusedAt);
+    headless::MemoryDwgFiler reader(bytes, AcDb::kFileFiler, nullptr);
+    TreeTestEntity entity;
+    EXPECT_FALSE(entity.TreeIn(&reader));
+    EXPECT_EQ(reader.filerStatus(), Acad::eOk);
+    // The read stopped at the 256th level's child count: nothing after it became names or values.
+    EXPECT_EQ(reader.remaining(), bytes.size() - refusedAt);
+    bool onlyTheChain = false;
+    EXPECT_EQ(ChainLength(entity, onlyTheChain), 256);
+    EXPECT_TRUE(onlyTheChain);
+}
+
+TEST_F(DataTreeStreamTest, EveryPrefixOfAStreamReadsWithoutTrouble)
+{
     TreeTestEntity source;
     source.AddNode(L"a")->SetValue(L"x", AcGePoint3d(1, 2, 3));
     source.AddNode(L"b")->SetValue(L"s", L"text");

@@ -11,6 +11,7 @@
 #include "dbents.h"
 #include "geometry/QxPolylineBasedCurve.h"
 #include "headless/CommandLine.h"
+#include "headless/HostHeap.h"
 
 namespace {
 
@@ -176,16 +177,15 @@ TEST(QxPolylineBasedCurveTest, ModifyingOperationsRunBetweenTheHooks)
 
 TEST(QxPolylineBasedCurveTest, LivesOnTheHostHeap)
 {
-    const auto* cls = QxPolylineBasedCurve::desc();
-    ASSERT_NE(cls, nullptr);
-    EXPECT_STREQ(cls->name(), L"QxPolylineBasedCurve");
-    EXPECT_STREQ(cls->myParent()->name(), L"AcDbCurve");
-    EXPECT_EQ(cls->dxfName(), nullptr);
-    EXPECT_EQ(cls->create(), nullptr);
-    EXPECT_EQ(cls->proxyFlags(), 0);
-    auto* curve = new PolylineCurve();
-    EXPECT_TRUE(curve->isKindOf(QxPolylineBasedCurve::desc()));
+    // A curve without a polyline allocates nothing on the host heap but itself.
+    const headless::HostHeapCounts before = headless::hostHeapCounts();
+    auto* curve = new PolylineCurve(false);
+    const headless::HostHeapCounts made = headless::hostHeapCounts();
+    EXPECT_EQ(made.allocations - before.allocations, 1u);
     delete curve;
+    const headless::HostHeapCounts after = headless::hostHeapCounts();
+    EXPECT_EQ(after.frees - made.frees, 1u);
+    EXPECT_EQ(after.allocations, made.allocations);
 }
 
 }  // namespace

@@ -100,15 +100,18 @@ TEST(TextBaseLabelTest, SingleLineTextIsCentredOnThePosition)
     qxtest::WorkingDatabase working;
     std::unique_ptr<AcDbText> text(SampleLabel().CreateDbText(AcDbObjectId::kNull));
     ASSERT_NE(text, nullptr);
-    EXPECT_EQ(text->horizontalMode(), AcDb::kTextCenter);
-    EXPECT_EQ(text->verticalMode(), AcDb::kTextVertMid);
-    EXPECT_EQ(text->alignmentPoint(), AcGePoint3d(10, 20, 0));
-    EXPECT_NEAR(text->rotation(), kPi / 2, 1e-12);
-    EXPECT_EQ(text->height(), 250);
-    // The position was computed from the alignment point: back along the reading direction
-    // and down by half the height.
-    EXPECT_NE(text->position(), text->alignmentPoint());
     EXPECT_EQ(text->textStyle(), working.db()->textstyle());
+    EXPECT_EQ(text->height(), 250);
+    // The text's box (top left, top right, bottom left, bottom right) has its centre on the
+    // position and reads along the label's direction, up the Y axis.
+    AcGePoint3dArray box;
+    ASSERT_EQ(text->getBoundingPoints(box), Acad::eOk);
+    ASSERT_EQ(box.length(), 4);
+    const AcGePoint3d centre = box[0] + ((box[1] - box[0]) + (box[2] - box[0]) + (box[3] - box[0])) / 4.0;
+    EXPECT_TRUE(qxtest::Near(centre, AcGePoint3d(10, 20, 0), 1e-9));
+    EXPECT_GT((box[3] - box[2]).length(), 0.0);
+    EXPECT_TRUE((box[3] - box[2]).isCodirectionalTo(AcGeVector3d(0, 1, 0)));
+    EXPECT_NEAR((box[0] - box[2]).length(), 250, 1e-9);
 }
 
 TEST(TextBaseLabelTest, TransformMovesTurnsAndScales)

@@ -1,21 +1,16 @@
-// The division line's filing: the typed record after the host curve's fields, shorter
-// records from older writers, newer versions refused, damaged counts, and lossless round
-// trips of every field (JSON text byte for byte).
+// The division line's filing: the typed record after the host curve's fields, lossless
+// round trips of every field (JSON text byte for byte), and records as older writers or
+// damage left them.
 #include <gtest/gtest.h>
 
-#include <memory>
-
-#include "ModuleTestSupport.h"
+#include "DivisionLineTestSupport.h"
+#include "FilerScript.h"
 #include "data/DataNode.h"
 #include "headless/RecordingDwgFiler.h"
-#include "lines/AecDivisionLine.h"
 
 namespace {
 
-AcGePoint3d P(double x, double y)
-{
-    return AcGePoint3d(x, y, 0.0);
-}
+using namespace linetest;
 
 // Every field away from its default.
 std::unique_ptr<AecDivisionLine> MakeFullLine()
@@ -40,212 +35,127 @@ std::unique_ptr<AecDivisionLine> MakeFullLine()
     return line;
 }
 
-// An empty tree, as the record's last item.
-void WriteEmptyTree(headless::RecordingDwgFiler& filer)
+// What the line holds, field by field, as its getters answer.
+std::vector<std::wstring> Fields(const AecDivisionLine& line)
 {
-    filer.writeInt32(-1001);
-    filer.writeInt32(1);
-    filer.writeInt32(0);
-    filer.writeInt32(0);
-}
-
-// The lines after the host curve's own.
-std::vector<std::string> OwnTranscript(AecDivisionLine& line)
-{
-    headless::RecordingDwgFiler hostOnly;
-    line.AcDbCurve::dwgOutFields(&hostOnly);
-    const auto lines = qxtest::FilingTranscript(&line);
-    EXPECT_GT(lines.size(), hostOnly.lines().size());
-    return std::vector<std::string>(lines.begin() + static_cast<long>(hostOnly.lines().size()), lines.end());
+    AcString text;
+    const AcGePoint3d s = line.GetStartPoint();
+    const AcGePoint3d e = line.GetEndPoint();
+    const AcGePoint3d l = line.GetBoundaryIdentifierPoint();
+    text.format(L"(%g, %g) (%g, %g) bulge %g indents %g %g label (%g, %g) options %d colours %d %d %d %d", s.x, s.y,
+                e.x, e.y, line.GetBulge(), line.GetIndentLeft(), line.GetIndentRight(), l.x, l.y,
+                static_cast<int>(line.GetDrawOptions()), line.GetJieDianTextColorIndex(),
+                line.GetJieDianBoundaryColorIndex(), line.GetShouBianTextColorIndex(),
+                line.GetShouBianLineColorIndex());
+    return {text.wstr(),
+            line.GetJieDianTextLayerName().wstr(),
+            line.GetJieDianBoundaryLayerName().wstr(),
+            line.GetShouBianTextLayerName().wstr(),
+            line.GetShouBianLineLayerName().wstr(),
+            line.GetNodeBasicJsonStr().wstr(),
+            line.GetShouBianJsonStr().wstr(),
+            line.GetAccessoryJsonStr().wstr()};
 }
 
 TEST(AecDivisionLineFilingTest, TheTypedRecordThenTheTree)
 {
     auto line = MakeFullLine();
     line->AddNode(L"Extra")->SetValue(L"k", 5);
-    const std::vector<std::string> expected = {
-        "writeInt32 1",  // class version
-        "writeInt32 1", "writeBool true",
-        "writeInt32 5", "writeInt32 2", "writeInt32 1", "writeInt32 2", "writeInt32 3", "writeInt32 4",
-        "writeInt32 3", "writeDouble 12.5", "writeDouble 7.25", "writeDouble 0.25",
-        "writeInt32 4", "writeString \"JD文字\"", "writeString \"JD边界\"", "writeString \"SB文字\"",
-        "writeString \"SB线\"",
-        "writeInt32 0",  // 3D vectors
-        "writeInt32 3", "writePoint3d (100, 200, 0)", "writePoint3d (400, 600, 0)", "writePoint3d (250, 380, 0)",
-        "writeInt32 0",  // 2D points
-        "writeInt32 0",  // soft pointer ids
-        "writeInt32 0",  // hard pointer ids
-        "writeString \"{\\\"a\\\":1}\"", "writeString \"\"", "writeString \"[\\\"螺钉\\\"]\"",
-        "writeInt32 -1001", "writeInt32 1",  // tree header
-        "writeInt32 0", "writeInt32 1", "writeString \"Extra\"",
-        "writeInt32 1", "writeString \"k\"", "writeInt32 0", "writeInt32 5", "writeInt32 0",
+    headless::RecordingDwgFiler hostOnly;
+    line->AcDbCurve::dwgOutFields(&hostOnly);
+    const auto lines = qxtest::FilingTranscript(line.get());
+    ASSERT_GT(lines.size(), hostOnly.lines().size());
+    const std::vector<std::string> own(lines.begin() + static_cast<long>(hostOnly.lines().size()), lines.end());
+    // clang-format off
+    const std::vector<qxtest::FilerItem> expected = {
+        1,                                                // class version
+        1, true,                                          // bools
+        5, 2, 1, 2, 3, 4,                                 // integers
+        3, 12.5, 7.25, 0.25,                              // doubles
+        4, L"JD文字", L"JD边界", L"SB文字", L"SB线",      // strings
+        0,                                                // 3D vectors
+        3, P(100, 200), P(400, 600), P(250, 380),         // 3D points
+        0, 0, 0,                                          // 2D points, soft and hard ids
+        L"{\"a\":1}", L"", L"[\"螺钉\"]",                  // the JSON blocks, without counts
+        -1001, 1, 0, 1, L"Extra", 1, L"k", 0, 5, 0,       // the tree
     };
-    EXPECT_EQ(OwnTranscript(*line), expected);
+    // clang-format on
+    EXPECT_EQ(own, qxtest::ItemLines(expected));
 }
 
-TEST(AecDivisionLineFilingTest, ARoundTripKeepsEveryField)
+TEST(AecDivisionLineFilingTest, RoundTripsKeepEveryFieldAndEveryByte)
 {
     qxtest::WorkingDatabase working;
-    auto source = MakeFullLine();
+    auto full = MakeFullLine();
     // Quotes, backslashes, line breaks, Chinese and a character beyond the basic plane.
-    const AcString json(L"{\"名称\":\"节点 \\\"A\\\"\",\"备注\":\"第一行\\n第二行\",\"符号\":\"😀\"}");
-    source->SetShouBianJsonStr(json);
-    source->SetBulge(-3.75);
-    source->AddNode(L"Extra")->SetValue(L"名字", AcString(L"值"));
-
-    const qxtest::Bytes bytes = qxtest::FileOut(source.get(), working.db());
-    AecDivisionLine copy;
-    ASSERT_EQ(qxtest::FileIn(&copy, bytes, working.db()), Acad::eOk);
-    EXPECT_TRUE(qxtest::Near(copy.GetStartPoint(), P(100, 200)));
-    EXPECT_TRUE(qxtest::Near(copy.GetEndPoint(), P(400, 600)));
-    EXPECT_EQ(copy.GetBulge(), -3.75);
-    EXPECT_EQ(copy.GetIndentLeft(), 12.5);
-    EXPECT_EQ(copy.GetIndentRight(), 7.25);
-    EXPECT_TRUE(qxtest::Near(copy.GetBoundaryIdentifierPoint(), P(250, 380)));
-    EXPECT_EQ(copy.GetDrawOptions(), kDrawBoundary);
-    EXPECT_EQ(copy.GetJieDianTextColorIndex(), 1);
-    EXPECT_EQ(copy.GetJieDianBoundaryColorIndex(), 2);
-    EXPECT_EQ(copy.GetShouBianTextColorIndex(), 3);
-    EXPECT_EQ(copy.GetShouBianLineColorIndex(), 4);
-    EXPECT_EQ(copy.GetJieDianTextLayerName(), AcString(L"JD文字"));
-    EXPECT_EQ(copy.GetJieDianBoundaryLayerName(), AcString(L"JD边界"));
-    EXPECT_EQ(copy.GetShouBianTextLayerName(), AcString(L"SB文字"));
-    EXPECT_EQ(copy.GetShouBianLineLayerName(), AcString(L"SB线"));
-    EXPECT_EQ(copy.GetNodeBasicJsonStr(), AcString(L"{\"a\":1}"));
-    EXPECT_EQ(copy.GetShouBianJsonStr().wstr(), json.wstr());
-    EXPECT_EQ(copy.GetAccessoryJsonStr(), AcString(L"[\"螺钉\"]"));
-    AcString value;
-    ASSERT_NE(copy.GetNode(L"Extra"), nullptr);
-    EXPECT_TRUE(copy.GetNode(L"Extra")->GetValue(L"名字", value));
-    EXPECT_EQ(value, AcString(L"值"));
-    EXPECT_EQ(qxtest::FileOut(&copy, working.db()), bytes);
+    full->SetShouBianJsonStr(L"{\"名称\":\"节点 \\\"A\\\"\",\"备注\":\"第一行\\n第二行\",\"符号\":\"😀\"}");
+    full->SetBulge(-3.75);
+    full->AddNode(L"Extra")->SetValue(L"名字", AcString(L"值"));
+    // A line the length rule pulled to its shortest, on a slant: the rule must not move it
+    // again when it is read.
+    auto shortest = MakeLine(P(0.1, 0.3), P(1.7, 2.9));
+    for (AecDivisionLine* source : {full.get(), shortest.get()}) {
+        const qxtest::Bytes bytes = qxtest::FileOut(source, working.db());
+        AecDivisionLine copy;
+        ASSERT_EQ(qxtest::FileIn(&copy, bytes, working.db()), Acad::eOk);
+        EXPECT_EQ(Fields(copy), Fields(*source));
+        EXPECT_EQ(qxtest::FileOut(&copy, working.db()), bytes);
+    }
+    EXPECT_EQ(Fields(*full),
+              (std::vector<std::wstring>{
+                  L"(100, 200) (400, 600) bulge -3.75 indents 12.5 7.25 label (250, 380) options 2 "
+                  L"colours 1 2 3 4",
+                  L"JD文字", L"JD边界", L"SB文字", L"SB线", L"{\"a\":1}",
+                  L"{\"名称\":\"节点 \\\"A\\\"\",\"备注\":\"第一行\\n第二行\",\"符号\":\"😀\"}", L"[\"螺钉\"]"}));
 }
 
-// A record as an older writer may have left it: only the draw options among the integers,
-// no doubles, strings or points.
-TEST(AecDivisionLineFilingTest, AShortRecordSetsOnlyWhatItHolds)
+TEST(AecDivisionLineFilingTest, ShortOrDamagedRecordsTakeOnlyWhatTheyHold)
 {
-    auto line = MakeFullLine();
-    headless::RecordingDwgFiler filer;
-    ASSERT_EQ(line->AcDbCurve::dwgOutFields(&filer), Acad::eOk);
-    filer.writeInt32(1);  // version
-    filer.writeInt32(1);
-    filer.writeBool(false);
-    filer.writeInt32(1);
-    filer.writeInt32(kDrawCenterLine);
-    for (int group = 0; group < 7; ++group)  // doubles .. hard pointer ids: all empty
-        filer.writeInt32(0);
-    filer.writeString(L"{}");
-    filer.writeString(L"");
-    filer.writeString(L"");
-    WriteEmptyTree(filer);
-    filer.rewind();
-
-    ASSERT_EQ(line->dwgInFields(&filer), Acad::eOk);
-    EXPECT_EQ(line->GetDrawOptions(), kDrawCenterLine);
-    EXPECT_EQ(line->GetJieDianTextColorIndex(), 1);
-    EXPECT_EQ(line->GetJieDianBoundaryColorIndex(), 2);
-    EXPECT_EQ(line->GetShouBianTextColorIndex(), 3);
-    EXPECT_EQ(line->GetShouBianLineColorIndex(), 4);
-    EXPECT_EQ(line->GetIndentLeft(), 12.5);
-    EXPECT_EQ(line->GetBulge(), 0.25);
-    EXPECT_EQ(line->GetShouBianLineLayerName(), AcString(L"SB线"));
-    EXPECT_TRUE(qxtest::Near(line->GetEndPoint(), P(400, 600)));
-    EXPECT_EQ(line->GetNodeBasicJsonStr(), AcString(L"{}"));
-}
-
-TEST(AecDivisionLineFilingTest, FewerThanThreePointsKeepTheGeometry)
-{
-    auto line = MakeFullLine();
-    headless::RecordingDwgFiler filer;
-    ASSERT_EQ(line->AcDbCurve::dwgOutFields(&filer), Acad::eOk);
-    filer.writeInt32(1);
-    for (int group = 0; group < 5; ++group)  // bools .. 3D vectors
-        filer.writeInt32(0);
-    filer.writeInt32(2);
-    filer.writePoint3d(P(1, 1));
-    filer.writePoint3d(P(2, 2));
-    for (int group = 0; group < 3; ++group)
-        filer.writeInt32(0);
-    for (int json = 0; json < 3; ++json)
-        filer.writeString(L"");
-    WriteEmptyTree(filer);
-    filer.rewind();
-    EXPECT_EQ(line->dwgInFields(&filer), Acad::eOk);
-    EXPECT_TRUE(qxtest::Near(line->GetStartPoint(), P(100, 200)));
-    EXPECT_TRUE(qxtest::Near(line->GetEndPoint(), P(400, 600)));
-}
-
-TEST(AecDivisionLineFilingTest, ANewerVersionIsRefusedAndChangesNothing)
-{
-    auto line = MakeFullLine();
-    headless::RecordingDwgFiler filer;
-    ASSERT_EQ(line->AcDbCurve::dwgOutFields(&filer), Acad::eOk);
-    filer.writeInt32(2);
-    filer.writeInt32(1);
-    filer.writeBool(false);
-    filer.rewind();
-    EXPECT_EQ(line->dwgInFields(&filer), Acad::eMakeMeProxy);
-    EXPECT_EQ(static_cast<int>(Acad::eMakeMeProxy), 301);
-    EXPECT_TRUE(qxtest::Near(line->GetEndPoint(), P(400, 600)));
-    EXPECT_EQ(line->GetIndentLeft(), 12.5);
-}
-
-TEST(AecDivisionLineFilingTest, DamagedCountsAreReportedNotFollowed)
-{
-    struct Row {
-        const char* name;
-        Adesk::Int32 boolCount;
-        Acad::ErrorStatus expected;
+    const struct {
+        const char* what;
+        std::vector<qxtest::FilerItem> own;  // after the host curve's fields; a whole record ends in an empty tree
+        Acad::ErrorStatus status;
+        const wchar_t* geometry;       // the first field, or null when it stays as it was
+        const wchar_t* nodeBasicJson;  // the JSON blocks read, the others empty; null when none were
+    } rows[] = {
+        // An older writer: only the draw options among the integers, nothing else counted.
+        {"short",
+         {1, 1, false, 1, 1, 0, 0, 0, 0, 0, 0, 0, L"{}", L"", L""},
+         Acad::eOk,
+         L"(100, 200) (400, 600) bulge 0.25 indents 12.5 7.25 label (250, 380) options 1 colours 1 2 3 4",
+         L"{}"},
+        {"fewer than three points keep the geometry",
+         {1, 0, 0, 0, 0, 0, 2, P(1, 1), P(2, 2), 0, 0, 0, L"", L"", L""},
+         Acad::eOk,
+         nullptr,
+         L""},
+        {"the length rule applies to what is read",
+         {1, 0, 0, 0, 0, 0, 3, P(10, 10), P(11, 10), P(10, 20), 0, 0, 0, L"", L"", L""},
+         Acad::eOk,
+         L"(10, 10) (15, 10) bulge 0.25 indents 12.5 7.25 label (10, 20) options 2 colours 1 2 3 4",
+         L""},
+        {"negative count", {1, -3, false}, Acad::eDwgObjectImproperlyRead, nullptr, nullptr},
+        {"count far beyond the data", {1, 0x7FFFFFFF, false}, Acad::eEndOfFile, nullptr, nullptr},
     };
-    const Row rows[] = {
-        {"negative count", -3, Acad::eDwgObjectImproperlyRead},
-        {"count far beyond the data", 0x7FFFFFFF, Acad::eEndOfFile},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.what);
         auto line = MakeFullLine();
+        std::vector<std::wstring> expected = Fields(*line);
+        if (row.geometry != nullptr)
+            expected[0] = row.geometry;
+        if (row.nodeBasicJson != nullptr) {
+            expected[5] = row.nodeBasicJson;
+            expected[6] = expected[7] = L"";
+        }
         headless::RecordingDwgFiler filer;
         ASSERT_EQ(line->AcDbCurve::dwgOutFields(&filer), Acad::eOk);
-        filer.writeInt32(1);
-        filer.writeInt32(row.boolCount);
-        filer.writeBool(false);
+        qxtest::WriteItems(filer, row.own);
+        if (row.status == Acad::eOk)
+            qxtest::WriteItems(filer, {-1001, 1, 0, 0});
         filer.rewind();
-        EXPECT_EQ(line->dwgInFields(&filer), row.expected);
-        // What was not read stays; the line stays within its limits.
-        EXPECT_EQ(line->GetIndentRight(), 7.25);
-        EXPECT_TRUE(qxtest::Near(line->GetEndPoint(), P(400, 600)));
+        EXPECT_EQ(line->dwgInFields(&filer), row.status);
+        EXPECT_EQ(Fields(*line), expected);
     }
-}
-
-TEST(AecDivisionLineFilingTest, ANullFilerIsRefused)
-{
-    auto line = MakeFullLine();
-    EXPECT_EQ(line->dwgOutFields(nullptr), Acad::eNullObjectPointer);
-    EXPECT_EQ(static_cast<int>(Acad::eNullObjectPointer), 15);
-}
-
-TEST(AecDivisionLineFilingTest, ReadingAppliesTheLengthRule)
-{
-    auto line = MakeFullLine();
-    headless::RecordingDwgFiler filer;
-    ASSERT_EQ(line->AcDbCurve::dwgOutFields(&filer), Acad::eOk);
-    filer.writeInt32(1);
-    for (int group = 0; group < 5; ++group)
-        filer.writeInt32(0);
-    filer.writeInt32(3);
-    filer.writePoint3d(P(10, 10));
-    filer.writePoint3d(P(11, 10));
-    filer.writePoint3d(P(10, 20));
-    for (int group = 0; group < 3; ++group)
-        filer.writeInt32(0);
-    for (int json = 0; json < 3; ++json)
-        filer.writeString(L"");
-    WriteEmptyTree(filer);
-    filer.rewind();
-    ASSERT_EQ(line->dwgInFields(&filer), Acad::eOk);
-    EXPECT_TRUE(qxtest::Near(line->GetEndPoint(), P(15, 10), 1e-9));
-    EXPECT_TRUE(qxtest::Near(line->GetBoundaryIdentifierPoint(), P(10, 20)));
 }
 
 }  // namespace

@@ -1,14 +1,15 @@
-// The circle opening: its filing, list output, grips, explode, transform, draw and undo.
+// The circle opening: what it files after the circle, its list output, grips, explode,
+// draw, and the title moving with it.
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <limits>
+
+#include "FilerScript.h"
 #include "ModuleTestSupport.h"
 #include "dbsymtb.h"
-#include "headless/CommandLine.h"
-#include "headless/DrawingFile.h"
-#include "headless/MemoryDwgFiler.h"
 #include "headless/RecordingDwgFiler.h"
 #include "headless/TextCodec.h"
-#include "headless/UndoHistory.h"
 #include "openings/AecCircleOpening.h"
 
 namespace {
@@ -19,10 +20,10 @@ const bool kModuleLoaded = qxtest::RegisterModuleEnvironment();
 
 class AecCircleOpeningTest : public ::testing::Test {
 protected:
-    // An opening at (100, 200) with radius 50 and a visible title above it.
-    AecCircleOpening* MakeOpening(const ACHAR* title = L"D1", bool visible = true)
+    // An opening at (100, 200) with radius 50 and a title above it.
+    std::unique_ptr<AecCircleOpening> MakeOpening(const ACHAR* title = L"D1", bool visible = true)
     {
-        auto* opening = new AecCircleOpening();
+        auto opening = std::make_unique<AecCircleOpening>();
         opening->setCenter(AcGePoint3d(100, 200, 0));
         opening->setRadius(50);
         CircleOpeningData data = opening->GetData();
@@ -30,7 +31,7 @@ protected:
         data.titleLabel.SetVisible(visible);
         data.titleLabel.SetPosition(AcGePoint3d(100, 300, 0));
         data.titleLabel.SetHeight(100);
-        opening->SetData(data);
+        EXPECT_EQ(opening->SetData(data), Acad::eOk);
         return opening;
     }
 
@@ -50,199 +51,108 @@ protected:
     qxtest::WorkingDatabase working;
 };
 
-TEST_F(AecCircleOpeningTest, FilesTheTreeAfterTheCircle)
+// What the opening files after the host circle's fields.
+std::vector<std::string> OwnTranscript(const AecCircleOpening& opening)
 {
-    std::unique_ptr<AecCircleOpening> opening(MakeOpening());
-    headless::RecordingDwgFiler baseOnly;
-    opening->AcDbCircle::dwgOutFields(&baseOnly);
-    const auto lines = qxtest::FilingTranscript(opening.get());
-    ASSERT_GT(lines.size(), baseOnly.lines().size());
-    const std::vector<std::string> own(lines.begin() + static_cast<long>(baseOnly.lines().size()), lines.end());
-    ACHAR style[20];
-    opening->GetData().textStyleId.handle().getIntoAsciiBuffer(style);
-    const std::vector<std::string> expected = {
-        "writeInt32 1",      // class version
-        "writeInt32 -1001",  // tree header
-        "writeInt32 1",
-        "writeInt32 0",  // root: no values
-        "writeInt32 1",  // one child
-        "writeString \"CircleOpeningData\"",
-        "writeInt32 1",
-        "writeString \"TextStyleId\"",
-        "writeInt32 8",
-        "writeSoftPointerId " + headless::toUtf8(style),
-        "writeInt32 1",
-        "writeString \"TitleLabel\"",
-        "writeInt32 6",
-        "writeString \"bVisible\"", "writeInt32 3", "writeBool true",
-        "writeString \"dir\"", "writeInt32 7", "writeVector3d (1, 0, 0)",
-        "writeString \"extension\"", "writeInt32 2", "writeString \"\"",
-        "writeString \"height\"", "writeInt32 1", "writeDouble 100",
-        "writeString \"label\"", "writeInt32 2", "writeString \"D1\"",
-        "writeString \"pos\"", "writeInt32 5", "writePoint3d (100, 300, 0)",
-        "writeInt32 0",  // the label has no children
-    };
-    EXPECT_EQ(own, expected);
-}
-
-TEST_F(AecCircleOpeningTest, AnOpeningWithoutDataFilesAnEmptyRoot)
-{
-    AecCircleOpening opening;
-    headless::RecordingDwgFiler baseOnly;
-    opening.AcDbCircle::dwgOutFields(&baseOnly);
+    headless::RecordingDwgFiler circle;
+    opening.AcDbCircle::dwgOutFields(&circle);
     const auto lines = qxtest::FilingTranscript(&opening);
-    const std::vector<std::string> own(lines.begin() + static_cast<long>(baseOnly.lines().size()), lines.end());
-    const std::vector<std::string> expected = {"writeInt32 1", "writeInt32 -1001", "writeInt32 1", "writeInt32 0",
-                                               "writeInt32 0"};
-    EXPECT_EQ(own, expected);
+    return std::vector<std::string>(lines.begin() + static_cast<long>(circle.lines().size()), lines.end());
 }
 
-TEST_F(AecCircleOpeningTest, ARoundTripKeepsCircleStyleAndTitle)
+TEST_F(AecCircleOpeningTest, FilesItsVersionThenTheTreeAfterTheCircle)
 {
-    const AcDbObjectId style = AddTextStyle(L"洞口文字");
-    std::unique_ptr<AecCircleOpening> source(MakeOpening(L"圆洞 D=100"));
-    source->setNormal(AcGeVector3d(0, 0, -1));
-    CircleOpeningData data = source->GetData();
-    data.textStyleId = style;
-    source->SetData(data);
+    // Without a record the tree is an empty root.
+    EXPECT_EQ(OwnTranscript(AecCircleOpening()), qxtest::ItemLines({1, -1001, 1, 0, 0}));
 
-    const qxtest::Bytes bytes = qxtest::FileOut(source.get(), working.db());
-    AecCircleOpening copy;
-    ASSERT_EQ(qxtest::FileIn(&copy, bytes, working.db()), Acad::eOk);
-    EXPECT_TRUE(qxtest::Near(copy.center(), AcGePoint3d(100, 200, 0)));
-    EXPECT_EQ(copy.radius(), 50);
-    EXPECT_TRUE(qxtest::Near(copy.normal(), AcGeVector3d(0, 0, -1)));
-    const CircleOpeningData read = copy.GetData();
-    EXPECT_EQ(read.textStyleId, style);
-    EXPECT_EQ(read.titleLabel.GetLabel(), AcString(L"圆洞 D=100"));
-    EXPECT_TRUE(read.titleLabel.IsVisible());
-    EXPECT_TRUE(qxtest::Near(read.titleLabel.GetPosition(), AcGePoint3d(100, 300, 0)));
-    EXPECT_EQ(read.titleLabel.GetHeight(), 100);
-    EXPECT_EQ(qxtest::FileOut(&copy, working.db()), bytes);
-}
-
-TEST_F(AecCircleOpeningTest, ADrawingSavedAndReopenedKeepsTheOpening)
-{
-    const AcDbObjectId style = AddTextStyle(L"洞口文字");
-    AecCircleOpening* source = MakeOpening(L"圆洞 D=100");
-    source->setNormal(AcGeVector3d(0, 0, -1));
-    CircleOpeningData data = source->GetData();
-    data.textStyleId = style;
-    source->SetData(data);
-    const AcDbObjectId id = working.Add(source);
-
-    std::vector<std::uint8_t> file;
-    ASSERT_EQ(headless::DrawingFile::write(working.db(), file), Acad::eOk);
-    AcDbDatabase* reopened = nullptr;
-    ASSERT_EQ(headless::DrawingFile::read(file, reopened), Acad::eOk);
-    std::unique_ptr<AcDbDatabase> owner(reopened);
-
-    AcDbObjectId copyId;
-    ASSERT_EQ(reopened->getAcDbObjectId(copyId, false, id.handle()), Acad::eOk);
-    AecCircleOpening* copy = nullptr;
-    ASSERT_EQ(acdbOpenObject(copy, copyId, AcDb::kForRead), Acad::eOk);
-    EXPECT_TRUE(qxtest::Near(copy->center(), AcGePoint3d(100, 200, 0)));
-    EXPECT_EQ(copy->radius(), 50);
-    EXPECT_TRUE(qxtest::Near(copy->normal(), AcGeVector3d(0, 0, -1)));
-    const CircleOpeningData read = copy->GetData();
-    EXPECT_EQ(read.textStyleId.handle(), style.handle());
-    EXPECT_EQ(read.textStyleId.database(), reopened);
-    EXPECT_EQ(read.titleLabel.GetLabel(), AcString(L"圆洞 D=100"));
-    EXPECT_TRUE(read.titleLabel.IsVisible());
-    EXPECT_TRUE(qxtest::Near(read.titleLabel.GetPosition(), AcGePoint3d(100, 300, 0)));
-    EXPECT_EQ(read.titleLabel.GetHeight(), 100);
-    copy->close();
-
-    std::vector<std::uint8_t> again;
-    ASSERT_EQ(headless::DrawingFile::write(reopened, again), Acad::eOk);
-    EXPECT_EQ(again, file);
-}
-
-TEST_F(AecCircleOpeningTest, ANewerClassVersionIsRefused)
-{
-    std::unique_ptr<AecCircleOpening> source(MakeOpening());
-    qxtest::Bytes bytes = qxtest::FileOut(source.get(), working.db());
-    headless::MemoryDwgFiler baseOnly(AcDb::kFileFiler, working.db());
-    source->AcDbCircle::dwgOutFields(&baseOnly);
-    const std::size_t versionAt = baseOnly.bytes().size();
-    ASSERT_EQ(bytes[versionAt], 1);
-    bytes[versionAt] = 2;
-    AecCircleOpening target;
-    EXPECT_EQ(qxtest::FileIn(&target, bytes, working.db()), Acad::eMakeMeProxy);
-    EXPECT_FALSE(target.GetData().titleLabel.IsVisible());
+    // clang-format off
+    EXPECT_EQ(OwnTranscript(*MakeOpening()), qxtest::ItemLines({
+        1,                                      // class version
+        -1001, 1,                               // tree header
+        0, 1, L"CircleOpeningData",             // the root: no values, one child
+        1, L"TextStyleId", 8, AcDbSoftPointerId(working.db()->textstyle()),
+        1, L"TitleLabel",
+        6, L"bVisible", 3, true, L"dir", 7, AcGeVector3d(1, 0, 0), L"extension", 2, L"", L"height", 1, 100.0,
+        L"label", 2, L"D1", L"pos", 5, AcGePoint3d(100, 300, 0),
+        0,                                      // the label has no children
+    }));
+    // clang-format on
 }
 
 TEST_F(AecCircleOpeningTest, ListsCentreTitleAndStyle)
 {
-    std::unique_ptr<AecCircleOpening> opening(MakeOpening(L"D1"));
-    const AcDbObjectId style = AddTextStyle(L"Quarvo");
-    CircleOpeningData data = opening->GetData();
-    data.textStyleId = style;
-    opening->SetData(data);
-    const std::wstring own = L"\n圆形洞口: 圆心 (100.00, 200.00, 0.00)，半径 50.00，直径 100.00"
-                             L"\n标题: 显示，\"D1\""
-                             L"\n文字样式: Quarvo";
-    const std::wstring output = qxtest::ListOutput(opening.get());
-    ASSERT_GE(output.size(), own.size());
-    EXPECT_EQ(output.substr(output.size() - own.size()), own) << headless::toUtf8(output);
+    const AcDbObjectId own = AddTextStyle(L"Quarvo");
+    const struct {
+        const char* what;
+        const ACHAR* title;
+        bool visible;
+        AcDbObjectId style;
+        const wchar_t* fallback;  // a "_Standard" style to fall back on, or null
+        std::wstring tail;
+    } rows[] = {
+        {"its own style", L"D1", true, own, nullptr, L"\n标题: 显示，\"D1\"\n文字样式: Quarvo"},
+        {"no style: the current one", L"", false, AcDbObjectId::kNull, nullptr,
+         L"\n标题: 隐藏，\"\"\n文字样式: Standard（默认兜底）"},
+        {"no style: \"_Standard\" first", L"D2", true, AcDbObjectId::kNull, L"_Standard",
+         L"\n标题: 显示，\"D2\"\n文字样式: _Standard（默认兜底）"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.what);
+        if (row.fallback != nullptr)
+            AddTextStyle(row.fallback);
+        auto opening = MakeOpening(row.title, row.visible);
+        CircleOpeningData data = opening->GetData();
+        data.textStyleId = row.style;
+        opening->SetData(data);
+        const std::wstring expected = L"\n圆形洞口: 圆心 (100.00, 200.00, 0.00)，半径 50.00，直径 100.00" + row.tail;
+        const std::wstring output = qxtest::ListOutput(opening.get());
+        ASSERT_GE(output.size(), expected.size());
+        EXPECT_EQ(output.substr(output.size() - expected.size()), expected) << headless::toUtf8(output);
+    }
 }
 
-TEST_F(AecCircleOpeningTest, ListSaysWhenTheStyleFellBack)
+std::vector<AcGePoint3d> GripPoints(const AecCircleOpening& opening, std::vector<Adesk::IntPtr>* appData = nullptr)
 {
-    std::unique_ptr<AecCircleOpening> opening(MakeOpening(L"", false));
-    CircleOpeningData data = opening->GetData();
-    data.textStyleId = AcDbObjectId::kNull;  // purged, as far as the opening knows
-    opening->SetData(data);
-    const std::wstring output = qxtest::ListOutput(opening.get());
-    const std::wstring tail = L"\n标题: 隐藏，\"\"\n文字样式: Standard（默认兜底）";
-    ASSERT_GE(output.size(), tail.size());
-    EXPECT_EQ(output.substr(output.size() - tail.size()), tail) << headless::toUtf8(output);
-
-    // A "_Standard" style is the first fallback.
-    AddTextStyle(L"_Standard");
-    const std::wstring again = qxtest::ListOutput(opening.get());
-    EXPECT_NE(again.find(L"\n文字样式: _Standard（默认兜底）"), std::wstring::npos) << headless::toUtf8(again);
-}
-
-TEST_F(AecCircleOpeningTest, FiveGripsInOrderAndTheirMoves)
-{
-    std::unique_ptr<AecCircleOpening> opening(MakeOpening());
     AcDbGripDataPtrArray grips;
-    ASSERT_EQ(opening->getGripPoints(grips, 1.0, 5, AcGeVector3d::kZAxis, 0), Acad::eOk);
-    ASSERT_EQ(grips.length(), 5);
-    const AcGePoint3d expected[] = {{100, 200, 0}, {150, 200, 0}, {100, 250, 0}, {50, 200, 0}, {100, 150, 0}};
-    for (int i = 0; i < 5; ++i) {
-        EXPECT_TRUE(qxtest::Near(grips[i]->gripPoint(), expected[i])) << "grip " << i;
-        EXPECT_EQ(reinterpret_cast<Adesk::IntPtr>(grips[i]->appData()), i);
+    EXPECT_EQ(opening.getGripPoints(grips, 1.0, 5, AcGeVector3d::kZAxis, 0), Acad::eOk);
+    std::vector<AcGePoint3d> points;
+    for (AcDbGripData* grip : grips) {
+        points.push_back(grip->gripPoint());
+        if (appData != nullptr)
+            appData->push_back(reinterpret_cast<Adesk::IntPtr>(grip->appData()));
+        delete grip;
+    }
+    return points;
+}
+
+TEST_F(AecCircleOpeningTest, FiveGripsOnTheCirclesAxes)
+{
+    const struct {
+        const char* what;
+        AcGeVector3d normal;
+        AcGePoint3d plusU, plusV;
+    } rows[] = {
+        {"up", AcGeVector3d::kZAxis, {150, 200, 0}, {100, 250, 0}},
+        {"down: still X and Y", AcGeVector3d(0, 0, -1), {150, 200, 0}, {100, 250, 0}},
+        {"tilted: u = normal x Z, v = normal x u", AcGeVector3d(1, 0, 0), {100, 150, 0}, {100, 200, -50}},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.what);
+        auto opening = MakeOpening();
+        opening->setNormal(row.normal);
+        std::vector<Adesk::IntPtr> appData;
+        const std::vector<AcGePoint3d> points = GripPoints(*opening, &appData);
+        ASSERT_EQ(points.size(), 5u);
+        const AcGePoint3d c(100, 200, 0);
+        const AcGePoint3d expected[] = {c, row.plusU, row.plusV, c - (row.plusU - c), c - (row.plusV - c)};
+        for (std::size_t i = 0; i < 5; ++i) {
+            EXPECT_TRUE(qxtest::Near(points[i], expected[i])) << "grip " << i;
+            EXPECT_EQ(appData[i], static_cast<Adesk::IntPtr>(i));
+        }
     }
 
-    // Grip 1 dragged onto the centre leaves the smallest radius, not zero.
-    AcDbVoidPtrArray which;
-    which.append(grips[1]->appData());
-    ASSERT_EQ(opening->moveGripPointsAt(which, AcGeVector3d(-50, 0, 0), 0), Acad::eOk);
-    EXPECT_EQ(opening->radius(), 1e-6);
-
-    // Grip 3 dragged outwards sets the radius to the new distance.
-    AcDbVoidPtrArray third;
-    third.append(grips[3]->appData());
-    ASSERT_EQ(opening->moveGripPointsAt(third, AcGeVector3d(-80, 0, 0), 0), Acad::eOk);
-    EXPECT_NEAR(opening->radius(), 80.000001, 1e-9);
-
-    // Grip 0 moves everything, title included.
-    AcDbVoidPtrArray centre;
-    centre.append(grips[0]->appData());
-    ASSERT_EQ(opening->moveGripPointsAt(centre, AcGeVector3d(10, 20, 0), 0), Acad::eOk);
-    EXPECT_TRUE(qxtest::Near(opening->center(), AcGePoint3d(110, 220, 0)));
-    EXPECT_TRUE(qxtest::Near(opening->GetData().titleLabel.GetPosition(), AcGePoint3d(110, 320, 0)));
-
-    // A zero move and an empty selection change nothing.
-    EXPECT_EQ(opening->moveGripPointsAt(centre, AcGeVector3d(0, 0, 0), 0), Acad::eOk);
-    EXPECT_EQ(opening->moveGripPointsAt(AcDbVoidPtrArray(), AcGeVector3d(1, 0, 0), 0), Acad::eOk);
-    EXPECT_TRUE(qxtest::Near(opening->center(), AcGePoint3d(110, 220, 0)));
-    for (AcDbGripData* grip : grips)
-        delete grip;
-
     // The point forms are refused so that the host takes the grip-data forms.
+    auto opening = MakeOpening();
     AcGePoint3dArray points;
     AcDbIntArray modes;
     AcDbIntArray ids;
@@ -250,74 +160,96 @@ TEST_F(AecCircleOpeningTest, FiveGripsInOrderAndTheirMoves)
     EXPECT_EQ(opening->moveGripPointsAt(AcDbIntArray(), AcGeVector3d(1, 0, 0)), Acad::eNotImplementedYet);
 }
 
-TEST_F(AecCircleOpeningTest, ADownwardNormalUsesTheXAndYAxes)
+TEST_F(AecCircleOpeningTest, GripMoves)
 {
-    std::unique_ptr<AecCircleOpening> opening(MakeOpening());
-    opening->setNormal(AcGeVector3d(0, 0, -1));
-    AcDbGripDataPtrArray grips;
-    ASSERT_EQ(opening->getGripPoints(grips, 1.0, 5, AcGeVector3d::kZAxis, 0), Acad::eOk);
-    ASSERT_EQ(grips.length(), 5);
-    EXPECT_TRUE(qxtest::Near(grips[1]->gripPoint(), AcGePoint3d(150, 200, 0)));
-    EXPECT_TRUE(qxtest::Near(grips[2]->gripPoint(), AcGePoint3d(100, 250, 0)));
-    for (AcDbGripData* grip : grips)
-        delete grip;
-
-    // A tilted normal takes u = normal x Z and v = normal x u.
-    opening->setNormal(AcGeVector3d(1, 0, 0));
-    AcDbGripDataPtrArray tilted;
-    ASSERT_EQ(opening->getGripPoints(tilted, 1.0, 5, AcGeVector3d::kZAxis, 0), Acad::eOk);
-    EXPECT_TRUE(qxtest::Near(tilted[1]->gripPoint(), AcGePoint3d(100, 150, 0)));  // u = (0, -1, 0)
-    EXPECT_TRUE(qxtest::Near(tilted[2]->gripPoint(), AcGePoint3d(100, 200, -50)));  // v = (0, 0, -1)
-    for (AcDbGripData* grip : tilted)
-        delete grip;
+    const struct {
+        const char* what;
+        std::vector<Adesk::IntPtr> grips;
+        AcGeVector3d offset;
+        AcGePoint3d center, title;
+        double radius;
+    } rows[] = {
+        {"a side grip onto the centre: the smallest radius, not 0",
+         {1},
+         {-50, 0, 0},
+         {100, 200, 0},
+         {100, 300, 0},
+         1e-6},
+        {"a side grip outwards: its new distance", {3}, {-30, 0, 0}, {100, 200, 0}, {100, 300, 0}, 80},
+        {"the bottom grip downwards", {4}, {0, -70, 0}, {100, 200, 0}, {100, 300, 0}, 120},
+        {"the centre: everything moves, title too", {0, 1}, {10, 20, 0}, {110, 220, 0}, {110, 320, 0}, 50},
+        {"by zero: nothing", {1}, {0, 0, 0}, {100, 200, 0}, {100, 300, 0}, 50},
+        {"no grip: nothing", {}, {1, 0, 0}, {100, 200, 0}, {100, 300, 0}, 50},
+        {"an unknown grip: nothing", {7}, {1, 0, 0}, {100, 200, 0}, {100, 300, 0}, 50},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.what);
+        auto opening = MakeOpening();
+        AcDbVoidPtrArray which;
+        for (Adesk::IntPtr grip : row.grips)
+            which.append(reinterpret_cast<void*>(grip));
+        ASSERT_EQ(opening->moveGripPointsAt(which, row.offset, 0), Acad::eOk);
+        EXPECT_TRUE(qxtest::Near(opening->center(), row.center));
+        EXPECT_NEAR(opening->radius(), row.radius, 1e-9);
+        EXPECT_TRUE(qxtest::Near(opening->GetData().titleLabel.GetPosition(), row.title));
+    }
 }
 
 TEST_F(AecCircleOpeningTest, ExplodesIntoTheCircleAndTheVisibleTitle)
 {
-    struct Row {
+    const struct {
         const char* what;
         const ACHAR* title;
         bool visible;
         int count;
-    };
-    const Row rows[] = {
+    } rows[] = {
         {"visible title", L"D1", true, 2},
         {"hidden title", L"D1", false, 1},
         {"visible but empty title", L"", true, 1},
     };
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         SCOPED_TRACE(row.what);
-        AecCircleOpening* opening = MakeOpening(row.title, row.visible);
-        opening->setColorIndex(3);
-        working.Add(opening);
-        AcDbEntity* entity = nullptr;
-        ASSERT_EQ(acdbOpenAcDbEntity(entity, opening->objectId(), AcDb::kForRead), Acad::eOk);
+        auto created = MakeOpening(row.title, row.visible);
+        created->setColorIndex(3);
+        AecCircleOpening* opening = nullptr;
+        ASSERT_EQ(acdbOpenObject(opening, working.Add(created.release()), AcDb::kForRead), Acad::eOk);
         AcDbVoidPtrArray pieces;
-        ASSERT_EQ(entity->explode(pieces), Acad::eOk);
+        ASSERT_EQ(opening->explode(pieces), Acad::eOk);
+        opening->close();
         ASSERT_EQ(pieces.length(), row.count);
-        auto* circle = static_cast<AcDbEntity*>(pieces[0]);
+        std::unique_ptr<AcDbEntity> circle(static_cast<AcDbEntity*>(pieces[0]));
         ASSERT_EQ(circle->isA(), AcDbCircle::desc());
-        EXPECT_EQ(AcDbCircle::cast(circle)->radius(), 50);
+        EXPECT_EQ(AcDbCircle::cast(circle.get())->radius(), 50);
         EXPECT_EQ(circle->colorIndex(), 3);
         if (row.count == 2) {
-            auto* title = AcDbMText::cast(static_cast<AcDbEntity*>(pieces[1]));
+            std::unique_ptr<AcDbMText> title(AcDbMText::cast(static_cast<AcDbEntity*>(pieces[1])));
             ASSERT_NE(title, nullptr);
             EXPECT_EQ(title->attachment(), AcDbMText::kMiddleCenter);
             EXPECT_TRUE(qxtest::Near(title->location(), AcGePoint3d(100, 300, 0)));
         }
-        for (void* piece : pieces)
-            delete static_cast<AcDbEntity*>(piece);
-        entity->close();
     }
 }
 
-TEST_F(AecCircleOpeningTest, TransformMovesTurnsAndScalesTheTitle)
+TEST_F(AecCircleOpeningTest, DrawsTheCircleThenTheTitle)
 {
-    std::unique_ptr<AecCircleOpening> opening(MakeOpening());
-    const AcGeMatrix3d turn = AcGeMatrix3d::rotation(kPi / 2, AcGeVector3d::kZAxis, AcGePoint3d(100, 200, 0));
-    const AcGeMatrix3d grow = AcGeMatrix3d::scaling(2.0, AcGePoint3d(100, 200, 0));
-    const AcGeMatrix3d move = AcGeMatrix3d::translation(AcGeVector3d(5, 5, 0));
-    ASSERT_EQ(opening->transformBy(move * grow * turn), Acad::eOk);
+    AecCircleOpening* opening = nullptr;
+    ASSERT_EQ(acdbOpenObject(opening, working.Add(MakeOpening(L"D1").release()), AcDb::kForRead), Acad::eOk);
+    const auto primitives = qxtest::Draw(opening);
+    opening->close();
+    ASSERT_EQ(primitives.size(), 2u);
+    EXPECT_EQ(primitives[0].kind, headless::PrimitiveKind::kCircle);
+    EXPECT_TRUE(qxtest::Near(primitives[0].points[0], AcGePoint3d(100, 200, 0)));
+    EXPECT_EQ(primitives[1].kind, headless::PrimitiveKind::kText);
+    EXPECT_EQ(primitives[1].text, L"D1");
+}
+
+TEST_F(AecCircleOpeningTest, TheTitleMovesTurnsAndScalesWithTheCircle)
+{
+    auto opening = MakeOpening();
+    const AcGePoint3d c(100, 200, 0);
+    const AcGeMatrix3d turnGrowMove = AcGeMatrix3d::translation(AcGeVector3d(5, 5, 0)) * AcGeMatrix3d::scaling(2.0, c) *
+        AcGeMatrix3d::rotation(kPi / 2, AcGeVector3d::kZAxis, c);
+    ASSERT_EQ(opening->transformBy(turnGrowMove), Acad::eOk);
     EXPECT_TRUE(qxtest::Near(opening->center(), AcGePoint3d(105, 205, 0)));
     EXPECT_NEAR(opening->radius(), 100, 1e-9);
     const TextBaseLabel title = opening->GetData().titleLabel;
@@ -326,43 +258,22 @@ TEST_F(AecCircleOpeningTest, TransformMovesTurnsAndScalesTheTitle)
     EXPECT_NEAR(title.GetHeight(), 200, 1e-9);
 }
 
-TEST_F(AecCircleOpeningTest, DrawsTheCircleThenTheTitle)
+TEST_F(AecCircleOpeningTest, ATitleThatIsNotFiniteIsRefused)
 {
-    AecCircleOpening* opening = MakeOpening(L"D1");
-    const AcDbObjectId id = working.Add(opening);
-    AcDbEntity* entity = nullptr;
-    ASSERT_EQ(acdbOpenAcDbEntity(entity, id, AcDb::kForRead), Acad::eOk);
-    const auto primitives = qxtest::Draw(entity);
-    ASSERT_GE(primitives.size(), 2u);
-    EXPECT_EQ(primitives[0].kind, headless::PrimitiveKind::kCircle);
-    EXPECT_TRUE(qxtest::Near(primitives[0].points[0], AcGePoint3d(100, 200, 0)));
-    EXPECT_EQ(primitives.back().kind, headless::PrimitiveKind::kText);
-    EXPECT_EQ(primitives.back().text, L"D1");
-    entity->close();
-}
-
-TEST_F(AecCircleOpeningTest, UndoRestoresTheRecord)
-{
-    AecCircleOpening* created = MakeOpening(L"before");
-    const AcDbObjectId id = working.Add(created);
-    headless::UndoHistory& history = headless::UndoHistory::of(working.db());
-    history.beginGroup();
-    AecCircleOpening* opening = nullptr;
-    ASSERT_EQ(acdbOpenObject(opening, id, AcDb::kForWrite), Acad::eOk);
-    CircleOpeningData data = opening->GetData();
-    data.titleLabel.SetLabel(L"after");
-    opening->SetData(data);
-    opening->close();
-    history.endGroup();
-
-    ASSERT_EQ(history.undo(), Acad::eOk);
-    ASSERT_EQ(acdbOpenObject(opening, id, AcDb::kForRead), Acad::eOk);
-    EXPECT_EQ(opening->GetData().titleLabel.GetLabel(), AcString(L"before"));
-    opening->close();
-    ASSERT_EQ(history.redo(), Acad::eOk);
-    ASSERT_EQ(acdbOpenObject(opening, id, AcDb::kForRead), Acad::eOk);
-    EXPECT_EQ(opening->GetData().titleLabel.GetLabel(), AcString(L"after"));
-    opening->close();
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    auto opening = MakeOpening();
+    const std::vector<std::string> before = OwnTranscript(*opening);
+    for (int field = 0; field < 3; ++field) {
+        CircleOpeningData data = opening->GetData();
+        if (field == 0)
+            data.titleLabel.SetPosition(AcGePoint3d(nan, 0, 0));
+        else if (field == 1)
+            data.titleLabel.SetHeight(std::numeric_limits<double>::infinity());
+        else
+            data.titleLabel.SetTextDirX(AcGeVector3d(0, nan, 0));
+        EXPECT_EQ(opening->SetData(data), Acad::eInvalidInput) << field;
+    }
+    EXPECT_EQ(OwnTranscript(*opening), before);
 }
 
 }  // namespace
