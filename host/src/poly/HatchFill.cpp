@@ -113,10 +113,14 @@ bool addDashes(const FamilyFrame& family, long long j, double from, double to, c
     }
     const double period = family.period;
     const double start = family.dashStart(j);
-    // Whole periods counted from the line's dash start, never stepped through by adding.
+    const auto drawn = std::count_if(dashes.begin(), dashes.end(), [](double dash) { return dash >= 0.0; });
+    if (drawn == 0)
+        return true;  // gaps only
+    // Whole periods counted from the line's dash start, never stepped through by adding;
+    // each period makes at most one piece per drawn dash.
     const double first = std::floor((from - start) / period);
     const double cycles = std::floor((to - start) / period) - first + 1.0;
-    budget -= cycles * static_cast<double>(dashes.size());
+    budget -= cycles * static_cast<double>(drawn);
     if (!(budget >= 0.0))
         return false;
     const long long count = static_cast<long long>(cycles);
