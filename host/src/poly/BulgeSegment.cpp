@@ -79,6 +79,11 @@ AcGePoint2d BulgeSegment::pointAt(double t) const
     return m_start + arcMove(t * m_sweep);
 }
 
+AcGeVector2d BulgeSegment::moveFromStart(double t) const
+{
+    return m_isArc ? arcMove(t * m_sweep) : (m_end - m_start) * t;
+}
+
 AcGeVector2d BulgeSegment::derivAt(double t) const
 {
     if (!m_isArc)
@@ -135,6 +140,11 @@ double BulgeSegment::nearestFractionExtended(const AcGePoint2d& p, double lowest
     const double along = r + unit.dotProduct(d);
     const double turn = across == 0.0 && along == 0.0 ? 0.0 : std::atan2(across, along);
     return fractionOfTurn(turn, lowest);
+}
+
+double BulgeSegment::nearestFractionNearEnds(const AcGePoint2d& p) const
+{
+    return nearestFractionExtended(p, m_isArc ? -(fullTurnFraction() - 1.0) / 2.0 : 0.0);
 }
 
 double BulgeSegment::fractionOfTurn(double phi, double lowest) const

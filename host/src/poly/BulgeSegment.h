@@ -42,6 +42,8 @@ public:
     double length() const;
 
     AcGePoint2d pointAt(double t) const;
+    // pointAt(t) - start, free of the rounding of the start's coordinates.
+    AcGeVector2d moveFromStart(double t) const;
     // Derivatives with respect to t.
     AcGeVector2d derivAt(double t) const;
     AcGeVector2d secondDerivAt(double t) const;
@@ -53,6 +55,9 @@ public:
     // The fraction of the nearest point of the segment's whole line or circle, taken in
     // [lowest, lowest + one turn) on a circle; unbounded on a line.
     double nearestFractionExtended(const AcGePoint2d& p, double lowest) const;
+    // The fraction of the nearest point of the segment's whole line or circle, taken on a
+    // circle so that points near either end come out near 0 or 1.
+    double nearestFractionNearEnds(const AcGePoint2d& p) const;
     // One whole turn as a fraction of this arc (2 pi / |sweep|); 0 for a line.
     double fullTurnFraction() const;
     // The vector from the centre to the point at fraction t (zero for a line).

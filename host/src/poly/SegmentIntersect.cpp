@@ -40,7 +40,7 @@ double nearEnds(const BulgeSegment& seg)
 // The fraction of a point on the segment's line or circle.
 double fractionOf(const BulgeSegment& seg, const AcGePoint2d& p)
 {
-    return seg.nearestFractionExtended(p, nearEnds(seg));
+    return seg.nearestFractionNearEnds(p);
 }
 
 bool within(const BulgeSegment& seg, double t, bool extended)
