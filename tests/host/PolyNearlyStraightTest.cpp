@@ -239,11 +239,7 @@ TEST(PolyNearlyStraightTest, APointKeepsItsParameterAndNoNearestPointIsFarther)
     constexpr int kCases = 2500;
     std::mt19937 rng(611);
     std::uniform_real_distribution<double> unit(0.0, 1.0);
-    int failures = 0;
-    auto fail = [&](const std::string& what) {
-        if (++failures <= 8)
-            ADD_FAILURE() << what;
-    };
+    polytest::SweepFailures fail;
     for (int i = 0; i < kCases; ++i) {
         const double chord = std::pow(10.0, -3.0 + 9.0 * unit(rng));
         const double bulge = (unit(rng) < 0.5 ? -1.0 : 1.0) * std::pow(10.0, -13.0 + 10.0 * unit(rng));
@@ -280,7 +276,7 @@ TEST(PolyNearlyStraightTest, APointKeepsItsParameterAndNoNearestPointIsFarther)
                 fail(name.str() + "the nearest point is not the nearest");
         }
     }
-    EXPECT_EQ(failures, 0);
+    EXPECT_EQ(fail.count(), 0);
 }
 
 }  // namespace

@@ -240,11 +240,7 @@ TEST(PolyOffsetTest, KinkedLinesAndArcsOffsetIntoSimpleCurvesThatKeepTheirDistan
     constexpr int kShapes = 64;
     std::mt19937 rng(8);
     std::uniform_real_distribution<double> unit(0.0, 1.0);
-    int failures = 0;
-    auto fail = [&](const std::string& what) {
-        if (++failures <= 8)
-            ADD_FAILURE() << what;
-    };
+    polytest::SweepFailures fail;
     for (int i = 0; i < kShapes; ++i) {
         const double length = std::pow(10.0, 1.7 + 2.0 * unit(rng));
         const double kink = (unit(rng) < 0.5 ? -1.0 : 1.0) * std::pow(10.0, -9.0 + 7.0 * unit(rng));
@@ -296,7 +292,7 @@ TEST(PolyOffsetTest, KinkedLinesAndArcsOffsetIntoSimpleCurvesThatKeepTheirDistan
             }
         }
     }
-    EXPECT_EQ(failures, 0);
+    EXPECT_EQ(fail.count(), 0);
 }
 
 }  // namespace

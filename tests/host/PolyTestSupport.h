@@ -9,6 +9,7 @@
 #include <limits>
 #include <memory>
 #include <random>
+#include <string>
 #include <vector>
 
 #include "dbpl.h"
@@ -190,6 +191,21 @@ inline double handDistance(const AcDbPolyline& pline, const AcGePoint3d& p)
     }
     return std::hypot(best, p.z);
 }
+
+// The failures of a seeded sweep: the first few reported in full, all counted, so that a
+// broken rule shows its first cases rather than thousands.
+class SweepFailures {
+public:
+    void operator()(const std::string& what)
+    {
+        if (++m_count <= 8)
+            ADD_FAILURE() << what;
+    }
+    int count() const { return m_count; }
+
+private:
+    int m_count = 0;
+};
 
 // The distance from p to the curve.
 inline double distanceTo(const AcDbCurve& curve, const AcGePoint3d& p)
