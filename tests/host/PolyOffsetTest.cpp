@@ -219,6 +219,28 @@ TEST(PolyOffsetTest, TheReportedNearlyStraightJoins)
         EXPECT_TRUE(isSimple(curvesOf(*offsets)[0]));
 }
 
+// A concave kink of 1e-4 followed by a segment 0.001 long, shorter than the moved
+// segments' way back to their crossing (40 tan(5e-5) = 0.002): they do not cross within
+// it, a chord bridges the corner, and the loop along that chord, whose middle falls short
+// of the distance by only 40 (1e-4)^2 / 8, must go. What stays is the line to the crossing
+// of the first and third moved segments on the bisector, and on.
+TEST(PolyOffsetTest, ALoopAlongABridgingChordNeverStays)
+{
+    const double k = 1e-4;
+    const AcGePoint2d short0(100 + 0.001 * std::cos(k), -0.001 * std::sin(k));
+    const AcGePoint2d end(short0.x + 100 * std::cos(k), short0.y - 100 * std::sin(k));
+    auto pline = polytest::polyline({{0, 0}, {100, 0}, {short0.x, short0.y}, {end.x, end.y}});
+    Pieces offsets;
+    ASSERT_EQ(pline->getOffsetCurves(40.0, offsets.array), Acad::eOk);
+    ASSERT_EQ(offsets.size(), 1);
+    const Curve curve = curvesOf(offsets)[0];
+    EXPECT_TRUE(isSimple(curve));
+    ASSERT_EQ(curve.vertices.size(), 3u);
+    EXPECT_TRUE(isNear(AcGePoint2d(curve.vertices[1].x, curve.vertices[1].y),
+                       AcGePoint2d(100 - 40 * std::tan(k / 2), -40), 1e-9));
+    EXPECT_TRUE(keepsDistance(*pline, offsets, 40.0));
+}
+
 struct Variant {
     const char* name;
     AcGeMatrix3d xform;
