@@ -4,7 +4,10 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <fstream>
+#include <iterator>
 #include <memory>
+#include <string>
 
 #include "EntTestSupport.h"
 #include "GeTestSupport.h"
@@ -376,6 +379,105 @@ TEST(HatchTest, TransformsMoveLoopsAndTurnThePattern)
     AcGeMatrix3d uneven = AcGeMatrix3d::scaling(1.0);
     uneven.entry[0][0] = 3.0;
     EXPECT_EQ(bulged.transformBy(uneven), Acad::eCannotScaleNonUniformly);
+}
+
+// A user-defined pattern of vertical lines one apart (at x = 0.5, 1.5, ...) over a strip
+// one high and `length` long.
+std::unique_ptr<AcDbHatch> strip(double length, const ACHAR* pattern = nullptr, double height = 1.0)
+{
+    auto hatch = std::make_unique<AcDbHatch>();
+    if (pattern == nullptr) {
+        hatch->setPattern(AcDbHatch::kUserDefined, L"_USER");
+        hatch->setPatternSpace(1.0);
+        hatch->setPatternAngle(kPi / 2);
+        hatch->setOriginPoint(AcGePoint2d(0.5, 0));
+    } else {
+        hatch->setPattern(AcDbHatch::kPreDefined, pattern);
+    }
+    AcGePoint2dArray corners;
+    corners.append(AcGePoint2d(0, -height / 2));
+    corners.append(AcGePoint2d(length, -height / 2));
+    corners.append(AcGePoint2d(length, height / 2));
+    corners.append(AcGePoint2d(0, height / 2));
+    hatch->appendLoop(AcDbHatch::kExternal, corners, AcGeDoubleArray());
+    return hatch;
+}
+
+// The work of a pattern is counted, not timed: each boundary segment a line spans and each
+// piece made spends one of 200,000. Vertical lines over a strip each span its two long
+// edges and make one piece, three apiece; dots along a row cost one each.
+TEST(HatchTest, APatternSpendsABudgetOfSpansAndPieces)
+{
+    struct Row {
+        const char* name;
+        std::unique_ptr<AcDbHatch> hatch;
+        Acad::ErrorStatus status;
+        int lines;
+    };
+    Row rows[] = {
+        {"66,666 lines spend 199,998", strip(66666), Acad::eOk, 66666},
+        {"66,667 lines would spend 200,001", strip(66667), Acad::eOutOfRange, 0},
+        // DOTS: a row at y = 0 with a dot every 1/32 from x = 0 to 5000 inclusive, and the
+        // row spanning the strip's two short edges.
+        {"160,001 dots and 2 spans", strip(5000, L"DOTS", 0.05), Acad::eOk, 160001},
+        {"224,001 dots", strip(7000, L"DOTS", 0.05), Acad::eOutOfRange, 0},
+    };
+    for (Row& row : rows) {
+        EXPECT_EQ(row.hatch->evaluateHatch(), row.status) << row.name;
+        EXPECT_EQ(row.hatch->numHatchLines(), row.lines) << row.name;
+    }
+}
+
+// A pattern based farther away than its line numbers count in whole steps still covers
+// the square with lines 1/8 apart, as if based at the square's corner.
+TEST(HatchTest, APatternBasedBeyondCountingStillCovers)
+{
+    auto hatch = nested(1, L"ANSI31");
+    ASSERT_EQ(hatch->setOriginPoint(AcGePoint2d(1e300, 0)), Acad::eOk);
+    ASSERT_EQ(hatch->evaluateHatch(), Acad::eOk);
+    EXPECT_EQ(hatch->numHatchLines(), 113);
+}
+
+// A record the fuzzer found, read through the filer as the drawing reader would (the
+// fuzz target reads a hatch when the first byte is odd).
+void readFoundRecord(const char* file, AcDbHatch& hatch)
+{
+    std::ifstream in(std::string(QX_FUZZ_CORPUS_DIR) + "/fuzz_polyline_hatch/" + file, std::ios::binary);
+    const enttest::Bytes record((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+    ASSERT_GT(record.size(), 1u) << file;
+    ASSERT_EQ(record[0] % 2, 1) << file;
+    ASSERT_EQ(enttest::fileIn(&hatch, enttest::Bytes(record.begin() + 1, record.end())), Acad::eOk) << file;
+}
+
+// Found records read, and evaluate and draw at once to what a careful reader makes of them.
+TEST(HatchTest, FoundRecordsReadAndEvaluateSanely)
+{
+    // A strip 3 by 63,488 under ANSI31 at scale 1: some 359,000 lines, which took 16
+    // seconds to draw. Refused as too dense, it draws nothing.
+    AcDbHatch dense;
+    readFoundRecord("hatch_dense_pattern_on_a_long_strip", dense);
+    EXPECT_EQ(dense.evaluateHatch(), Acad::eOutOfRange);
+    EXPECT_EQ(dense.numHatchLines(), 0);
+    headless::RecordingWorldDraw denseDraw;
+    denseDraw.drawDrawable(&dense);
+    EXPECT_TRUE(denseDraw.primitives().empty());
+
+    // ANSI31 based 8.4e298 away over a loop from (0, 0) to (3, 0) and back within 1e-310
+    // of the x axis: the line numbers overflowed their integer. The lines now cross the
+    // loop where it is, 1/8 apart along the diagonal: at most the 17 that reach it.
+    AcDbHatch far;
+    readFoundRecord("hatch_pattern_base_far_away", far);
+    ASSERT_EQ(far.evaluateHatch(), Acad::eOk);
+    EXPECT_LE(far.numHatchLines(), 17);
+    for (int i = 0; i < far.numHatchLines(); ++i) {
+        AcGePoint2d start;
+        AcGePoint2d end;
+        far.getHatchLineDataAt(i, start, end);
+        for (const AcGePoint2d& p : {start, end}) {
+            EXPECT_NEAR(p.y, 0.0, kTol);
+            EXPECT_TRUE(p.x >= -kTol && p.x <= 3 + kTol) << p.x;
+        }
+    }
 }
 
 TEST(HatchTest, Lists)

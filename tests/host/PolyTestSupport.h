@@ -4,9 +4,12 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
+#include <limits>
 #include <memory>
 #include <random>
+#include <string>
 #include <vector>
 
 #include "dbpl.h"
@@ -98,6 +101,111 @@ inline std::unique_ptr<AcDbPolyline> randomOutline(std::mt19937& rng, bool close
     }
     return polyline(vertices, closed);
 }
+
+// A segment worked out as a drafter would by hand, independently of the host: in the
+// frame of its chord (origin at the chord's middle, x along the chord, y to its left), a
+// minor arc of bulge b over chord c is y(x) = -sign(b) (h - x^2 / (R + sqrt(R^2 - x^2)))
+// with sagitta h = |b| c / 2 and radius R = c (1 + b^2) / (4 |b|); positive bulges run
+// counter-clockwise, to the right of the chord. No centre is ever formed, so nearly straight arcs
+// keep every digit. Good for |b| <= 1.
+struct HandArc {
+    AcGePoint2d middle;
+    AcGeVector2d along;
+    AcGeVector2d left;
+    double half = 0.0;
+    double side = 0.0;  // -sign(b)
+    double sagitta = 0.0;
+    double radius = 0.0;
+
+    HandArc(const AcGePoint2d& start, const AcGePoint2d& end, double bulge)
+        : middle(start + (end - start) * 0.5), along((end - start).normal()), left(along.perpVector())
+    {
+        const double chord = start.distanceTo(end);
+        half = chord / 2.0;
+        side = bulge > 0.0 ? -1.0 : 1.0;
+        sagitta = std::fabs(bulge) * chord / 2.0;
+        radius = bulge == 0.0 ? 0.0 : chord * (1.0 + bulge * bulge) / (4.0 * std::fabs(bulge));
+    }
+
+    double height(double x) const
+    {
+        if (radius == 0.0)
+            return 0.0;
+        return side * (sagitta - x * x / (radius + std::sqrt(radius * radius - x * x)));
+    }
+    AcGePoint2d at(double x) const { return middle + along * x + left * height(x); }
+
+    // The slope dy/dx.
+    double slope(double x) const { return radius == 0.0 ? 0.0 : -side * x / std::sqrt(radius * radius - x * x); }
+
+    // The chord position of the point nearest q: sampled along the chord, then pinned
+    // by halving on the derivative of the squared distance (whose own value, unlike the
+    // distance's, keeps its digits near the minimum).
+    double nearestX(const AcGePoint2d& q) const
+    {
+        const double qx = (q - middle).dotProduct(along);
+        const double qy = (q - middle).dotProduct(left);
+        auto cost = [&](double x) {
+            const double dy = height(x) - qy;
+            return (x - qx) * (x - qx) + dy * dy;
+        };
+        auto rise = [&](double x) { return (x - qx) + (height(x) - qy) * slope(x); };
+        constexpr int kSamples = 64;
+        double bestX = -half;
+        for (int i = 1; i <= kSamples; ++i) {
+            const double x = -half + 2.0 * half * i / kSamples;
+            if (cost(x) < cost(bestX))
+                bestX = x;
+        }
+        double a = std::max(-half, bestX - 2.0 * half / kSamples);
+        double b = std::min(half, bestX + 2.0 * half / kSamples);
+        if (rise(a) >= 0.0)
+            return a;
+        if (rise(b) <= 0.0)
+            return b;
+        for (int i = 0; i < 200; ++i) {
+            const double mid = (a + b) / 2.0;
+            if (mid <= a || mid >= b)
+                break;
+            (rise(mid) < 0.0 ? a : b) = mid;
+        }
+        return (a + b) / 2.0;
+    }
+    double distanceTo(const AcGePoint2d& q) const { return q.distanceTo(at(nearestX(q))); }
+};
+
+// The distance from p to the polyline's segments as HandArcs (in the plane z = 0).
+inline double handDistance(const AcDbPolyline& pline, const AcGePoint3d& p)
+{
+    const unsigned n = pline.numVerts();
+    const unsigned segments = pline.isClosed() ? n : n - 1;
+    double best = std::numeric_limits<double>::infinity();
+    for (unsigned i = 0; i < segments; ++i) {
+        AcGePoint2d a;
+        AcGePoint2d b;
+        double bulge = 0.0;
+        pline.getPointAt(i, a);
+        pline.getPointAt((i + 1) % n, b);
+        pline.getBulgeAt(i, bulge);
+        best = std::min(best, HandArc(a, b, bulge).distanceTo(AcGePoint2d(p.x, p.y)));
+    }
+    return std::hypot(best, p.z);
+}
+
+// The failures of a seeded sweep: the first few reported in full, all counted, so that a
+// broken rule shows its first cases rather than thousands.
+class SweepFailures {
+public:
+    void operator()(const std::string& what)
+    {
+        if (++m_count <= 8)
+            ADD_FAILURE() << what;
+    }
+    int count() const { return m_count; }
+
+private:
+    int m_count = 0;
+};
 
 // The distance from p to the curve.
 inline double distanceTo(const AcDbCurve& curve, const AcGePoint3d& p)

@@ -110,8 +110,9 @@ public:
 
     // Clips the pattern's lines to the filled area and keeps them (numHatchLines); any
     // change to the loops or the pattern drops them. A solid fill has no lines.
-    // eOutOfRange, keeping no lines, when the pattern is too dense for the area (more than
-    // two million pieces). The flag is accepted and changes nothing.
+    // eOutOfRange, keeping no lines, when the pattern is too dense for the area (its lines
+    // would span boundary segments, or make pieces, more than 200,000 times in all). The
+    // flag is accepted and changes nothing.
     Acad::ErrorStatus evaluateHatch(bool underestimateNumLines = false);
     int numHatchLines() const;
     Acad::ErrorStatus getHatchLineDataAt(int index, AcGePoint2d& startPt, AcGePoint2d& endPt) const;

@@ -217,6 +217,15 @@ void unregisterShapeSource(AcRxClass* cls)
                list.end());
 }
 
+bool hasRegisteredSource(const AcDbEntity* entity)
+{
+    for (const auto& entry : sources()) {
+        if (entity->isKindOf(entry.first))
+            return true;
+    }
+    return false;
+}
+
 bool shapesOf(const AcDbEntity* entity, std::vector<CurveShape>& shapes)
 {
     if (entity == nullptr)
@@ -276,6 +285,17 @@ Acad::ErrorStatus intersectEntities(const AcDbEntity* self, const AcDbEntity* ot
 {
     if (other == nullptr)
         return Acad::eNullEntityPointer;
+    // An entity whose shapes come from a registered source meets things by its own pieces
+    // (a polyline keeps its nearly straight arcs precise that way): without a projection
+    // the points are the same asked the other way round.
+    if (projection == nullptr && hasRegisteredSource(other) && !hasRegisteredSource(self)) {
+        AcDb::Intersect swapped = type;
+        if (type == AcDb::kExtendThis)
+            swapped = AcDb::kExtendArg;
+        else if (type == AcDb::kExtendArg)
+            swapped = AcDb::kExtendThis;
+        return other->intersectWith(self, swapped, points);
+    }
     std::vector<CurveShape> mine;
     std::vector<CurveShape> theirs;
     if (!shapesOf(self, mine) || !shapesOf(other, theirs))

@@ -35,6 +35,9 @@ using ShapeSource = bool (*)(const AcDbEntity* entity, std::vector<CurveShape>& 
 void registerShapeSource(AcRxClass* cls, ShapeSource source);
 void unregisterShapeSource(AcRxClass* cls);
 
+// True when the entity's class (or one it derives from) registered a shape source.
+bool hasRegisteredSource(const AcDbEntity* entity);
+
 // The shapes an entity is made of; false when its class is unknown here.
 bool shapesOf(const AcDbEntity* entity, std::vector<CurveShape>& shapes);
 

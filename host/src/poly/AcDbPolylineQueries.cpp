@@ -1,11 +1,13 @@
 // AcDbPolyline: extents, object snaps and intersections with other curves.
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <vector>
 
 #include "AcDbPolyline.h"
 #include "PolylineShapes.h"
 #include "PolylineView.h"
+#include "SegmentIntersect.h"
 #include "ge/GeMath.h"
 
 namespace {
@@ -16,6 +18,12 @@ using hostpoly::PolylineView;
 // Intersection points closer than this are one point.
 constexpr double kSamePoint = hostpoly::kOnCurveTolerance;
 
+// How far past its end (as a fraction) a point still lies on the arc.
+double onArc(const BulgeSegment& seg)
+{
+    return hostpoly::kOnCurveTolerance / seg.length();
+}
+
 void addUnique(std::vector<AcGePoint3d>& points, const AcGePoint3d& p)
 {
     for (const AcGePoint3d& q : points) {
@@ -25,46 +33,168 @@ void addUnique(std::vector<AcGePoint3d>& points, const AcGePoint3d& p)
     points.push_back(p);
 }
 
-// The shapes of an entity, with which of them may be extended: a polyline extends only
-// an open one's first and last segments, other curves extend wholly.
-struct ExtendableShapes {
-    std::vector<hostents::CurveShape> shapes;
-    std::vector<bool> extendBack;     // may run on before its start
-    std::vector<bool> extendForward;  // may run on past its end
+// Pieces of another entity, each with the side it may be extended to: a polyline extends
+// only an open one's first segment back and its last one on, other curves wholly. An
+// extended arc is its whole circle.
+struct Extendable {
+    bool back = false;
+    bool forward = false;
+    bool any() const { return back || forward; }
 };
 
-bool shapesFor(const AcDbEntity* entity, bool extend, ExtendableShapes& out)
+// This polyline's segments of length, with their shapes in space for the pieces of other
+// entities that leave its plane.
+struct OwnPieces {
+    std::vector<BulgeSegment> segments;
+    std::vector<hostents::CurveShape> shapes;
+    std::vector<Extendable> extend;
+};
+
+OwnPieces ownPieces(const PolylineView& view, bool extend)
 {
-    if (const AcDbPolyline* polyline = AcDbPolyline::cast(entity)) {
-        const PolylineView view(*polyline);
-        std::vector<int> segmentOf;
-        hostpoly::polylineShapes(view, out.shapes, &segmentOf);
-        const bool open = extend && !view.isClosed();
-        for (size_t i = 0; i < out.shapes.size(); ++i) {
-            out.extendBack.push_back(open && i == 0);
-            out.extendForward.push_back(open && i + 1 == out.shapes.size());
-        }
-        return true;
+    OwnPieces own;
+    std::vector<int> segmentOf;
+    hostpoly::polylineShapes(view, own.shapes, &segmentOf);
+    const bool open = extend && !view.isClosed();
+    for (size_t i = 0; i < segmentOf.size(); ++i) {
+        own.segments.push_back(view.segment(segmentOf[i]));
+        own.extend.push_back({open && i == 0, open && i + 1 == segmentOf.size()});
     }
-    if (!hostents::shapesOf(entity, out.shapes))
-        return false;
-    out.extendBack.assign(out.shapes.size(), extend);
-    out.extendForward.assign(out.shapes.size(), extend);
+    return own;
+}
+
+// A piece of another entity: in this polyline's plane as a segment when it lies in it
+// (or, with a projection, is seen in it), else as its shape in space.
+struct OtherPiece {
+    bool inPlane = false;
+    BulgeSegment segment{AcGePoint2d(), AcGePoint2d(), 0.0};
+    hostents::CurveShape shape;
+    Extendable extend;
+};
+
+bool isNormalParallel(const AcGeVector3d& a, const AcGeVector3d& b)
+{
+    return a.crossProduct(b).length() <= hostge::kParallelSine * a.length() * b.length();
+}
+
+// An arc shape as one or two segments in the plane (a segment turns less than a whole
+// turn; a circle is two halves).
+void arcSegments(const hostpoly::OcsFrame& frame, const hostents::ArcGeometry& arc, std::vector<BulgeSegment>& out)
+{
+    const double sense = arc.normal.dotProduct(frame.normal) > 0.0 ? 1.0 : -1.0;
+    const int halves = arc.sweep > hostge::kTwoPi / 2.0 ? 2 : 1;
+    const double step = arc.sweep / halves;
+    for (int i = 0; i < halves; ++i) {
+        const AcGePoint2d from = frame.toPlane(arc.pointAtAngle(arc.startAngle + step * i));
+        const AcGePoint2d to = frame.toPlane(arc.pointAtAngle(arc.startAngle + step * (i + 1)));
+        out.emplace_back(from, to, sense * std::tan(step / 4.0));
+    }
+}
+
+// The other entity's pieces; false when its class gives none. Another polyline in (or,
+// with a projection along the normal, parallel to) this plane gives its own segments, so
+// that its nearly straight arcs keep their precision.
+bool otherPieces(const PolylineView& mine, const AcDbEntity* other, bool extend, bool projected,
+                 std::vector<OtherPiece>& out)
+{
+    const hostpoly::OcsFrame& frame = mine.frame();
+    const double tol = hostpoly::kOnCurveTolerance;
+    if (const AcDbPolyline* polyline = AcDbPolyline::cast(other)) {
+        const PolylineView theirs(*polyline);
+        const bool parallel = isNormalParallel(theirs.frame().normal, frame.normal);
+        if (parallel && (projected || std::fabs(frame.heightOf(theirs.frame().origin)) <= tol)) {
+            const bool open = extend && !theirs.isClosed();
+            const double sense = theirs.frame().normal.dotProduct(frame.normal) > 0.0 ? 1.0 : -1.0;
+            std::vector<BulgeSegment> segments;
+            for (int i = 0; i < theirs.numSegments(); ++i) {
+                const BulgeSegment seg = theirs.segment(i);
+                if (!seg.isDegenerate())
+                    segments.emplace_back(frame.toPlane(theirs.frame().toWorld(seg.start())),
+                                          frame.toPlane(theirs.frame().toWorld(seg.end())), sense * seg.bulge());
+            }
+            for (size_t i = 0; i < segments.size(); ++i) {
+                OtherPiece piece;
+                piece.inPlane = true;
+                piece.segment = segments[i];
+                piece.extend = {open && i == 0, open && i + 1 == segments.size()};
+                out.push_back(piece);
+            }
+            return true;
+        }
+    }
+    std::vector<hostents::CurveShape> shapes;
+    std::vector<Extendable> extents;
+    if (AcDbPolyline::cast(other) != nullptr) {
+        const PolylineView theirs(*AcDbPolyline::cast(other));
+        std::vector<int> segmentOf;
+        hostpoly::polylineShapes(theirs, shapes, &segmentOf);
+        const bool open = extend && !theirs.isClosed();
+        for (size_t i = 0; i < shapes.size(); ++i)
+            extents.push_back({open && i == 0, open && i + 1 == shapes.size()});
+    } else {
+        if (!hostents::shapesOf(other, shapes))
+            return false;
+        extents.assign(shapes.size(), {extend, extend});
+    }
+    const AcGePlane plane(frame.origin, frame.normal);
+    for (size_t i = 0; i < shapes.size(); ++i) {
+        hostents::CurveShape shape = shapes[i];
+        OtherPiece piece;
+        piece.shape = shape;
+        piece.extend = extents[i];
+        if (projected && !hostents::projectShape(shapes[i], plane, shape)) {
+            out.push_back(piece);  // left for the projection to refuse
+            continue;
+        }
+        std::vector<BulgeSegment> segments;
+        if (shape.kind == hostents::CurveShape::kLine) {
+            if (std::fabs(frame.heightOf(shape.start)) <= tol && std::fabs(frame.heightOf(shape.end)) <= tol)
+                segments.emplace_back(frame.toPlane(shape.start), frame.toPlane(shape.end), 0.0);
+        } else if (isNormalParallel(shape.arc.normal, frame.normal) &&
+                   std::fabs(frame.heightOf(shape.arc.center)) <= tol) {
+            arcSegments(frame, shape.arc, segments);
+        }
+        if (segments.empty()) {
+            out.push_back(piece);
+            continue;
+        }
+        // An extended arc is its whole circle already through its first half.
+        if (shape.kind == hostents::CurveShape::kArc && piece.extend.any())
+            segments.erase(segments.begin() + 1, segments.end());
+        for (const BulgeSegment& seg : segments) {
+            piece.inPlane = true;
+            piece.segment = seg;
+            out.push_back(piece);
+        }
+    }
     return true;
 }
 
-// True when a point found on a shape's extension lies on the side it may be extended to.
-bool onAllowedSide(const hostents::CurveShape& shape, bool back, bool forward, const AcGePoint3d& p)
+// True when a point found on a segment's extension lies on the side it may be extended
+// to: an extended line runs on only that way; an extended arc is its whole circle.
+bool onAllowedSide(const BulgeSegment& seg, const Extendable& extend, double t)
 {
-    if (shape.kind != hostents::CurveShape::kLine || (back && forward))
+    if (seg.isArc() || (extend.back && extend.forward))
+        return true;
+    const double len = seg.length();
+    const double eps = len > 0.0 ? kSamePoint / len : 0.0;
+    const double lo = extend.back ? -std::numeric_limits<double>::infinity() : -eps;
+    const double hi = extend.forward ? std::numeric_limits<double>::infinity() : 1.0 + eps;
+    return t >= lo && t <= hi;
+}
+
+// The same for a shape in space, by where the point lies along a line.
+bool onAllowedSide(const hostents::CurveShape& shape, const Extendable& extend, const AcGePoint3d& p)
+{
+    if (shape.kind != hostents::CurveShape::kLine || (extend.back && extend.forward))
         return true;
     const AcGeVector3d d = shape.end - shape.start;
     const double dd = d.dotProduct(d);
     const double s = dd == 0.0 ? 0.0 : (p - shape.start).dotProduct(d) / dd;
     const double eps = dd == 0.0 ? 0.0 : kSamePoint / std::sqrt(dd);
-    if (back && !forward)
+    if (extend.back && !extend.forward)
         return s <= 1.0 + eps;
-    if (forward && !back)
+    if (extend.forward && !extend.back)
         return s >= -eps;
     return s >= -eps && s <= 1.0 + eps;
 }
@@ -80,6 +210,38 @@ AcGePoint3d liftTo(const hostents::CurveShape& original, const hostents::CurveSh
     return original.start + (original.end - original.start) * s;
 }
 
+// Where a line that leaves the plane pierces it on the segment: the point, or none.
+bool pierce(const hostpoly::OcsFrame& frame, const BulgeSegment& seg, const Extendable& segExtend,
+            const hostents::CurveShape& line, const Extendable& lineExtend, AcGePoint3d& point)
+{
+    const double ha = frame.heightOf(line.start);
+    const double hb = frame.heightOf(line.end);
+    if (ha == hb)
+        return false;
+    const double s = ha / (ha - hb);
+    const double len = line.start.distanceTo(line.end);
+    const double eps = len > 0.0 ? kSamePoint / len : 0.0;
+    if ((!lineExtend.back && s < -eps) || (!lineExtend.forward && s > 1.0 + eps))
+        return false;
+    point = line.start + (line.end - line.start) * s;
+    const AcGePoint2d q = frame.toPlane(point);
+    double t = seg.nearestFraction(q);
+    if (segExtend.any()) {
+        // The rest of an arc's circle lies before a first segment, after a last one, and
+        // is shared between both sides of a single one.
+        const double turn = seg.fullTurnFraction();
+        double lowest = 0.0;
+        if (segExtend.back)
+            lowest = segExtend.forward ? -(turn - 1.0) / 2.0 : 1.0 - turn;
+        t = seg.nearestFractionExtended(q, lowest);
+    }
+    return seg.pointAt(t).distanceTo(q) <= kSamePoint && onAllowedSide(seg, segExtend, t);
+}
+
+// Pieces in this plane meet segment to segment, worked from the segments' own ends and
+// bulges; pieces that leave it meet this polyline's shapes in space. Seen along a plane
+// parallel to this one, the other entity is first seen in this plane, so that the points
+// lie on this polyline; along any other plane, the shapes are projected onto it.
 Acad::ErrorStatus intersect(const AcDbPolyline* self, const AcDbEntity* other, AcDb::Intersect type,
                             const AcGePlane* projection, AcGePoint3dArray& points)
 {
@@ -87,28 +249,53 @@ Acad::ErrorStatus intersect(const AcDbPolyline* self, const AcDbEntity* other, A
         return Acad::eNullEntityPointer;
     const bool extendThis = type == AcDb::kExtendThis || type == AcDb::kExtendBoth;
     const bool extendArg = type == AcDb::kExtendArg || type == AcDb::kExtendBoth;
-    ExtendableShapes mine;
-    ExtendableShapes theirs;
-    shapesFor(self, extendThis, mine);
-    if (!shapesFor(other, extendArg, theirs))
+    const PolylineView view(*self);
+    const OwnPieces mine = ownPieces(view, extendThis);
+    const bool alongNormal = projection != nullptr && isNormalParallel(projection->normal(), view.frame().normal);
+    const AcGePlane* across = alongNormal ? nullptr : projection;
+    std::vector<OtherPiece> theirs;
+    if (!otherPieces(view, other, extendArg, alongNormal, theirs))
         return Acad::eNotImplementedYet;
+    if (across != nullptr) {
+        // Seen along a slanted direction nothing stays in this plane.
+        for (OtherPiece& piece : theirs)
+            piece.inPlane = false;
+    }
     std::vector<AcGePoint3d> found;
-    for (size_t a = 0; a < mine.shapes.size(); ++a) {
-        const bool extA = mine.extendBack[a] || mine.extendForward[a];
-        for (size_t b = 0; b < theirs.shapes.size(); ++b) {
-            const bool extB = theirs.extendBack[b] || theirs.extendForward[b];
+    for (size_t a = 0; a < mine.segments.size(); ++a) {
+        for (const OtherPiece& piece : theirs) {
+            if (piece.inPlane) {
+                hostpoly::SegmentHit hits[2];
+                const int n = hostpoly::intersectSegments(mine.segments[a], piece.segment, hits, mine.extend[a].any(),
+                                                          piece.extend.any());
+                for (int k = 0; k < n; ++k) {
+                    if (onAllowedSide(mine.segments[a], mine.extend[a], hits[k].ta) &&
+                        onAllowedSide(piece.segment, piece.extend, hits[k].tb))
+                        addUnique(found, view.frame().toWorld(hits[k].point));
+                }
+                continue;
+            }
+            if (across == nullptr && piece.shape.kind == hostents::CurveShape::kLine) {
+                AcGePoint3d p;
+                if (pierce(view.frame(), mine.segments[a], mine.extend[a], piece.shape, piece.extend, p))
+                    addUnique(found, p);
+                continue;
+            }
             hostents::CurveShape pa = mine.shapes[a];
-            hostents::CurveShape pb = theirs.shapes[b];
-            if (projection != nullptr && (!hostents::projectShape(mine.shapes[a], *projection, pa) ||
-                                          !hostents::projectShape(theirs.shapes[b], *projection, pb)))
+            hostents::CurveShape pb = piece.shape;
+            if (across != nullptr &&
+                (!hostents::projectShape(mine.shapes[a], *across, pa) ||
+                 !hostents::projectShape(piece.shape, *across, pb)))
+                return Acad::eNotApplicable;
+            if (alongNormal &&
+                !hostents::projectShape(piece.shape, AcGePlane(view.frame().origin, view.frame().normal), pb))
                 return Acad::eNotApplicable;
             std::vector<AcGePoint3d> seen;
-            hostents::intersectShapes(pa, extA, pb, extB, seen);
+            hostents::intersectShapes(pa, mine.extend[a].any(), pb, piece.extend.any(), seen);
             for (const AcGePoint3d& q : seen) {
-                if (!onAllowedSide(pa, mine.extendBack[a], mine.extendForward[a], q) ||
-                    !onAllowedSide(pb, theirs.extendBack[b], theirs.extendForward[b], q))
+                if (!onAllowedSide(pa, mine.extend[a], q) || !onAllowedSide(pb, piece.extend, q))
                     continue;
-                addUnique(found, projection != nullptr ? liftTo(mine.shapes[a], pa, q) : q);
+                addUnique(found, across != nullptr ? liftTo(mine.shapes[a], pa, q) : q);
             }
         }
     }
@@ -209,33 +396,26 @@ Acad::ErrorStatus AcDbPolyline::subGetOsnapPoints(AcDb::OsnapMode osnapMode, Ade
                 const double t = seg.nearestFractionExtended(last, 0.0);
                 if (t >= 0.0 && t <= 1.0)
                     snapPoints.append(frame.toWorld(seg.pointAt(t)));
-            } else {
-                const AcGeVector2d radial = last - seg.center();
-                if (radial.length() == 0.0)
-                    break;
-                for (double side : {1.0, -1.0}) {
-                    const AcGePoint2d p = seg.center() + radial / radial.length() * (side * seg.radius());
-                    if (seg.pointAt(seg.nearestFraction(p)).distanceTo(p) <= hostpoly::kOnCurveTolerance)
-                        snapPoints.append(frame.toWorld(p));
+            } else if (((last - seg.start()) + seg.radialAt(0.0)).length() > 0.0) {
+                // The foot on the circle and the point opposite it, where they lie on the arc.
+                const double nearFoot = seg.nearestFractionExtended(last, 0.0);
+                const double turn = seg.fullTurnFraction();
+                const double farFoot = nearFoot + turn / 2.0 < turn ? nearFoot + turn / 2.0 : nearFoot - turn / 2.0;
+                for (double t : {nearFoot, farFoot}) {
+                    if (t <= 1.0 + onArc(seg))
+                        snapPoints.append(frame.toWorld(seg.pointAt(std::min(t, 1.0))));
                 }
             }
             break;
-        case AcDb::kOsModeTan:
-            if (seg.isArc()) {
-                const AcGeVector2d toLast = last - seg.center();
-                const double d = toLast.length();
-                const double r = seg.radius();
-                if (d <= r)
-                    break;
-                const double spread = std::acos(r / d);
-                const double base = std::atan2(toLast.y, toLast.x);
-                for (double angle : {base + spread, base - spread}) {
-                    const AcGePoint2d p = seg.center() + AcGeVector2d(std::cos(angle), std::sin(angle)) * r;
-                    if (seg.pointAt(seg.nearestFraction(p)).distanceTo(p) <= hostpoly::kOnCurveTolerance)
-                        snapPoints.append(frame.toWorld(p));
-                }
+        case AcDb::kOsModeTan: {
+            double fractions[2];
+            const int count = seg.tangentFractions(last, 0.0, fractions);
+            for (int k = 0; k < count; ++k) {
+                if (fractions[k] <= 1.0 + onArc(seg))
+                    snapPoints.append(frame.toWorld(seg.pointAt(std::min(fractions[k], 1.0))));
             }
             break;
+        }
         default:
             return Acad::eOk;
         }

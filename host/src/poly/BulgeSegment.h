@@ -14,8 +14,10 @@
 namespace hostpoly {
 
 // Bulges at most this far from zero make a straight segment: the arc's sagitta would be
-// below 1e-12 of its chord.
-constexpr double kStraightBulge = 1e-12;
+// below the rounding of its chord's length. Any larger bulge is the arc it says, however
+// nearly straight: every answer about an arc is worked from its start point, never from
+// its far-away centre.
+constexpr double kStraightBulge = 0x1p-53;
 // Points this close (drawing units) count as on the curve: far below any drawing
 // precision, far above the rounding of the arithmetic.
 constexpr double kOnCurveTolerance = 1e-8;
@@ -40,6 +42,8 @@ public:
     double length() const;
 
     AcGePoint2d pointAt(double t) const;
+    // pointAt(t) - start, free of the rounding of the start's coordinates.
+    AcGeVector2d moveFromStart(double t) const;
     // Derivatives with respect to t.
     AcGeVector2d derivAt(double t) const;
     AcGeVector2d secondDerivAt(double t) const;
@@ -51,8 +55,25 @@ public:
     // The fraction of the nearest point of the segment's whole line or circle, taken in
     // [lowest, lowest + one turn) on a circle; unbounded on a line.
     double nearestFractionExtended(const AcGePoint2d& p, double lowest) const;
+    // The fraction of the nearest point of the segment's whole line or circle, taken on a
+    // circle so that points near either end come out near 0 or 1.
+    double nearestFractionNearEnds(const AcGePoint2d& p) const;
     // One whole turn as a fraction of this arc (2 pi / |sweep|); 0 for a line.
     double fullTurnFraction() const;
+    // The vector from the centre to the point at fraction t (zero for a line).
+    AcGeVector2d radialAt(double t) const;
+
+    // Where the arc's whole circle meets the line through p across n (the points q with
+    // (q - p).n = 0): up to two fractions, each taken in [lowest, lowest + one turn).
+    // None for a line segment.
+    int lineCrossingFractions(const AcGePoint2d& p, const AcGeVector2d& n, double lowest, double out[2]) const;
+    // Where the arc's whole circle meets the other arc's whole circle, as fractions of
+    // this arc in [lowest, lowest + one turn). None unless both are arcs; none for one
+    // circle over another.
+    int circleCrossingFractions(const BulgeSegment& other, double lowest, double out[2]) const;
+    // The points of the arc's whole circle whose tangent passes through p, as fractions
+    // in [lowest, lowest + one turn): two from outside the circle, none from inside.
+    int tangentFractions(const AcGePoint2d& p, double lowest, double out[2]) const;
 
     // The signed area between the arc and its chord (positive for a counter-clockwise arc).
     double segmentArea() const;
@@ -69,6 +90,12 @@ private:
     // The start point's offset from the centre rotated by phi, minus the offset: the move
     // from the start point to the arc point at angle phi.
     AcGeVector2d arcMove(double phi) const;
+    // The fraction of the turn phi from the start point, in [lowest, lowest + one turn).
+    double fractionOfTurn(double phi, double lowest) const;
+    // The fractions of the angles phi from the start with c + a (cos phi - 1) + b sin phi
+    // = 0: the form that every question about where the circle meets something takes
+    // when the circle is worked from its start point.
+    int fractionsWhere(double a, double b, double c, double lowest, double out[2]) const;
 
     AcGePoint2d m_start;
     AcGePoint2d m_end;

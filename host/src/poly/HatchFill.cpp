@@ -70,38 +70,129 @@ void bounds(const std::vector<HatchBoundary>& loops, AcGePoint2d& lo, AcGePoint2
     }
 }
 
-// Cuts the stretch [from, to] of a line into its dashes, measured from the line's base.
-void addDashes(const AcGePoint2d& base, const AcGeVector2d& u, double from, double to,
-               const std::vector<double>& dashes, std::vector<HatchSegment>& out)
+// One family of pattern lines, numbered from the extents' low corner so that no number
+// grows with the distance to the pattern's base: line j runs along u through
+// lo + v (space (j - phase)), and its dashes start where the along-distance from lo
+// is dashStart (modulo the period).
+struct FamilyFrame {
+    AcGePoint2d lo;
+    AcGeVector2d u;
+    AcGeVector2d v;
+    double space = 0.0;
+    double phase = 0.0;     // in [0, 1): the line number of lo, less its whole part
+    double period = 0.0;    // of the dashes; 0 for a continuous line
+    double dashBase = 0.0;  // where line 0's dashes start, modulo the period
+    double dashStep = 0.0;  // how far each next line's dashes move, modulo the period
+
+    AcGePoint2d footOf(long long j) const { return lo + v * (space * (static_cast<double>(j) - phase)); }
+    double lineNumberAt(const AcGePoint2d& q) const { return (q - lo).dotProduct(v) / space + phase; }
+    double dashStart(long long j) const
+    {
+        return period > 0.0 ? std::fmod(dashBase + std::fmod(dashStep * static_cast<double>(j), period), period) : 0.0;
+    }
+};
+
+// The remainder of x over the period, 0 when that is beyond the range of numbers.
+double remainderOf(double x, double period)
 {
-    if (dashes.empty()) {
-        out.push_back({base + u * from, base + u * to});
-        return;
+    const double r = std::fmod(x, period);
+    return std::isfinite(r) ? r : 0.0;
+}
+
+// Cuts the stretch [from, to] of line j into its dashes. False, with nothing added, when
+// that would make more pieces than the budget left.
+bool addDashes(const FamilyFrame& family, long long j, double from, double to, const std::vector<double>& dashes,
+               double& budget, std::vector<HatchSegment>& out)
+{
+    const AcGePoint2d foot = family.footOf(j);
+    if (dashes.empty() || family.period <= 0.0) {
+        if (--budget < 0.0)
+            return false;
+        out.push_back({foot + family.u * from, foot + family.u * to});
+        return true;
     }
-    double period = 0.0;
-    for (double dash : dashes)
-        period += std::fabs(dash);
-    if (period <= 0.0) {
-        out.push_back({base + u * from, base + u * to});
-        return;
-    }
-    double at = std::floor(from / period) * period;
-    while (at <= to) {
+    const double period = family.period;
+    const double start = family.dashStart(j);
+    const auto drawn = std::count_if(dashes.begin(), dashes.end(), [](double dash) { return dash >= 0.0; });
+    if (drawn == 0)
+        return true;  // gaps only
+    // Whole periods counted from the line's dash start, never stepped through by adding;
+    // each period makes at most one piece per drawn dash.
+    const double first = std::floor((from - start) / period);
+    const double cycles = std::floor((to - start) / period) - first + 1.0;
+    budget -= cycles * static_cast<double>(drawn);
+    if (!(budget >= 0.0))
+        return false;
+    const long long count = static_cast<long long>(cycles);
+    for (long long c = 0; c < count; ++c) {
+        double at = start + (first + static_cast<double>(c)) * period;
         for (double dash : dashes) {
             const double length = std::fabs(dash);
             if (dash > 0.0 && length > kDotDash * period) {
                 const double a = std::max(at, from);
                 const double b = std::min(at + length, to);
                 if (a < b)
-                    out.push_back({base + u * a, base + u * b});
+                    out.push_back({foot + family.u * a, foot + family.u * b});
             } else if (dash >= 0.0 && at >= from && at <= to) {
-                out.push_back({base + u * at, base + u * at});
+                out.push_back({foot + family.u * at, foot + family.u * at});
             }
             at += length;
-            if (at > to)
-                break;
         }
     }
+    return true;
+}
+
+// A place where line `line` of a family crosses boundary `loop`, `along` from lo's foot.
+struct Crossing {
+    long long line;
+    double along;
+    int loop;
+    bool operator<(const Crossing& other) const
+    {
+        return line != other.line ? line < other.line : along != other.along ? along < other.along : loop < other.loop;
+    }
+};
+
+// Line numbers are kept within this, so that they count exactly and fit their type.
+constexpr double kLargestLineNumber = 4503599627370496.0;  // 2^52
+
+// The crossings of a family's lines with every boundary, found segment by segment over
+// the lines that the segment spans (and one more each side, for rounding): the work
+// follows the crossings, not the lines times the segments. False when the lines that the
+// segments span exceed the budget.
+bool familyCrossings(const std::vector<HatchBoundary>& loops, const FamilyFrame& family, double& budget,
+                     std::vector<Crossing>& crossings)
+{
+    std::vector<std::pair<double, int>> hits;
+    for (size_t i = 0; i < loops.size(); ++i) {
+        for (const BulgeSegment& seg : loops[i].segments) {
+            if (seg.isDegenerate())
+                continue;
+            double lowest = std::fmin(family.lineNumberAt(seg.start()), family.lineNumberAt(seg.end()));
+            double highest = std::fmax(family.lineNumberAt(seg.start()), family.lineNumberAt(seg.end()));
+            double extremes[2];
+            const int count = seg.extremeFractions(family.v, extremes);
+            for (int k = 0; k < count; ++k) {
+                const double h = family.lineNumberAt(seg.pointAt(extremes[k]));
+                lowest = std::fmin(lowest, h);
+                highest = std::fmax(highest, h);
+            }
+            if (!(std::fabs(lowest) < kLargestLineNumber && std::fabs(highest) < kLargestLineNumber))
+                return false;
+            const double first = std::ceil(lowest) - 1.0;
+            const double last = std::floor(highest) + 1.0;
+            budget -= std::max(0.0, last - first - 1.0);
+            if (budget < 0.0)
+                return false;
+            for (long long j = static_cast<long long>(first); j <= static_cast<long long>(last); ++j) {
+                hits.clear();
+                segmentCrossings(seg, static_cast<int>(i), family.footOf(j), family.u, hits);
+                for (const auto& hit : hits)
+                    crossings.push_back({j, hit.first, hit.second});
+            }
+        }
+    }
+    return true;
 }
 
 std::vector<AcGePoint2d> polygonOf(const HatchBoundary& loop)
@@ -164,18 +255,14 @@ void segmentCrossings(const BulgeSegment& seg, int tag, const AcGePoint2d& p, co
         if (startAbove == above(pb))
             continue;
         // The circle meets the line at most twice; the piece holds exactly one of them.
-        const AcGePoint2d c = seg.center();
-        const double r = seg.radius();
-        const double h = (c - p).dotProduct(n);
-        const double reach = std::sqrt(std::max(0.0, r * r - h * h));
-        const AcGePoint2d foot = c - n * h;
+        // Worked from the arc's start point, so that nearly straight arcs keep their digits.
+        double fractions[2];
+        const int met = seg.lineCrossingFractions(p, n, ta - kPieceSlack, fractions);
         bool found = false;
-        for (const AcGePoint2d& x : {foot - d * reach, foot + d * reach}) {
-            const double t = seg.nearestFractionExtended(x, ta - kPieceSlack);
-            if (t <= tb + kPieceSlack && x.distanceTo(seg.pointAt(t)) <= kOnCurveTolerance * std::max(1.0, r)) {
-                add(x);
+        for (int k = 0; k < met && !found; ++k) {
+            if (fractions[k] <= tb + kPieceSlack) {
+                add(seg.pointAt(std::clamp(fractions[k], ta, tb)));
                 found = true;
-                break;
             }
         }
         if (found)
@@ -258,65 +345,64 @@ Acad::ErrorStatus clipPatternLines(const std::vector<HatchBoundary>& loops, cons
     AcGePoint2d lo;
     AcGePoint2d hi;
     bounds(loops, lo, hi);
-    const AcGePoint2d corners[4] = {lo, AcGePoint2d(hi.x, lo.y), hi, AcGePoint2d(lo.x, hi.y)};
-    const double diagonal = lo.distanceTo(hi);
+    if (!std::isfinite(lo.x) || !std::isfinite(lo.y) || !std::isfinite(hi.x) || !std::isfinite(hi.y))
+        return Acad::eOutOfRange;
 
-    // The families, their line ranges, and an upper bound of the pieces they can make.
-    struct Family {
-        const PatternLine* line;
-        AcGeVector2d u;
-        AcGeVector2d v;
-        long long first;
-        long long last;
+    double budget = kMaxHatchPieces;
+    const size_t before = out.size();
+    auto refuse = [&]() {
+        out.resize(before);
+        return Acad::eOutOfRange;
     };
-    std::vector<Family> families;
-    double estimate = 0.0;
+    std::vector<Crossing> crossings;
+    std::vector<char> inside(loops.size());
     for (const PatternLine& line : pattern) {
-        if (std::fabs(line.offsetY) <= 0.0 || !std::isfinite(line.offsetY))
-            continue;  // lines that do not step across never cover an area
-        const AcGeVector2d u(std::cos(line.angle), std::sin(line.angle));
-        const AcGeVector2d v = u.perpVector();
-        const AcGePoint2d base(line.baseX, line.baseY);
-        double minH = 0.0;
-        double maxH = 0.0;
-        for (int i = 0; i < 4; ++i) {
-            const double h = (corners[i] - base).dotProduct(v) / line.offsetY;
-            minH = i == 0 ? h : std::fmin(minH, h);
-            maxH = i == 0 ? h : std::fmax(maxH, h);
-        }
-        const double count = std::floor(maxH) - std::ceil(minH) + 1.0;
-        if (count <= 0.0)
-            continue;
-        double perLine = 1.0;
         double period = 0.0;
         for (double dash : line.dashes)
             period += std::fabs(dash);
-        if (period > 0.0)
-            perLine = (diagonal / period + 2.0) * static_cast<double>(line.dashes.size());
-        estimate += count * (perLine + loops.size());
-        if (!std::isfinite(estimate) || estimate > kMaxHatchSegments)
-            return Acad::eOutOfRange;
-        families.push_back({&line, u, v, static_cast<long long>(std::ceil(minH)), static_cast<long long>(std::floor(maxH))});
-    }
+        // Lines that do not step across never cover an area; a family whose numbers run
+        // beyond the range of numbers places no line anywhere.
+        if (std::fabs(line.offsetY) <= 0.0 || !std::isfinite(line.offsetY) || !std::isfinite(line.offsetX) ||
+            !std::isfinite(line.angle) || !std::isfinite(line.baseX) || !std::isfinite(line.baseY) ||
+            !std::isfinite(period))
+            continue;
+        FamilyFrame family;
+        family.lo = lo;
+        family.u = AcGeVector2d(std::cos(line.angle), std::sin(line.angle));
+        family.v = family.u.perpVector();
+        family.space = line.offsetY;
+        const AcGePoint2d base(line.baseX, line.baseY);
+        // lo lies on line number (lo - base).v / space; lines are numbered from its whole part.
+        const double atLo = (lo - base).dotProduct(family.v) / family.space;
+        if (!std::isfinite(atLo))
+            continue;
+        const double whole = std::floor(atLo);
+        family.phase = atLo - whole;
+        family.period = period;
+        if (period > 0.0) {
+            // Line k's dashes start at its base point, (base - lo).u + k offsetX along.
+            family.dashBase = remainderOf(remainderOf((base - lo).dotProduct(family.u), period) +
+                                              remainderOf(line.offsetX * whole, period),
+                                          period);
+            family.dashStep = remainderOf(line.offsetX, period);
+        }
 
-    std::vector<std::pair<double, int>> hits;
-    std::vector<char> inside(loops.size());
-    for (const Family& family : families) {
-        const PatternLine& line = *family.line;
-        for (long long k = family.first; k <= family.last; ++k) {
-            const AcGePoint2d base = AcGePoint2d(line.baseX, line.baseY) + family.u * (line.offsetX * k) +
-                                     family.v * (line.offsetY * k);
-            hits.clear();
-            for (size_t i = 0; i < loops.size(); ++i)
-                crossings(loops[i], static_cast<int>(i), base, family.u, hits);
-            std::sort(hits.begin(), hits.end());
+        crossings.clear();
+        if (!familyCrossings(loops, family, budget, crossings))
+            return refuse();
+        std::sort(crossings.begin(), crossings.end());
+        for (size_t start = 0; start < crossings.size();) {
+            size_t end = start;
+            while (end < crossings.size() && crossings[end].line == crossings[start].line)
+                ++end;
             std::fill(inside.begin(), inside.end(), 0);
             int insideCount = 0;
             int outermostInside = 0;
             bool filling = false;
             double fillStart = 0.0;
-            for (const auto& hit : hits) {
-                const int i = hit.second;
+            for (size_t k = start; k < end; ++k) {
+                const Crossing& hit = crossings[k];
+                const int i = hit.loop;
                 inside[i] = !inside[i];
                 const int step = inside[i] ? 1 : -1;
                 insideCount += step;
@@ -324,11 +410,13 @@ Acad::ErrorStatus clipPatternLines(const std::vector<HatchBoundary>& loops, cons
                     outermostInside += step;
                 const bool now = fills(style, insideCount, outermostInside);
                 if (now && !filling)
-                    fillStart = hit.first;
-                else if (!now && filling && hit.first > fillStart)
-                    addDashes(base, family.u, fillStart, hit.first, line.dashes, out);
+                    fillStart = hit.along;
+                else if (!now && filling && hit.along > fillStart &&
+                         !addDashes(family, hit.line, fillStart, hit.along, line.dashes, budget, out))
+                    return refuse();
                 filling = now;
             }
+            start = end;
         }
     }
     return Acad::eOk;

@@ -22,8 +22,12 @@ struct HatchBoundary {
 // The hatch styles by the host's numbers.
 enum HatchFillStyle { kFillNormal = 0, kFillOuter = 1, kFillIgnore = 2 };
 
-// Patterns that would need more line pieces than this are refused rather than drawn.
-constexpr double kMaxHatchSegments = 2.0e6;
+// A pattern is refused rather than drawn when its lines would span the boundaries'
+// segments more often than this, or be cut into more pieces: so dense a pattern blackens
+// its area anyway, and the cap keeps evaluating a hatch within milliseconds whatever
+// spacing, scale and dashes a drawing claims. Each segment spanned by a line and each
+// piece made spends one from the same budget.
+constexpr double kMaxHatchPieces = 200000.0;
 
 struct HatchSegment {
     AcGePoint2d start;
@@ -49,7 +53,8 @@ double filledArea(const std::vector<HatchBoundary>& loops, const std::vector<int
 
 // The pattern's lines (angles, base points, offsets and dashes already in the hatch's
 // plane and scale) clipped to the filled areas. eOutOfRange, with nothing made, when the
-// pattern is too dense for the boundaries' size.
+// pattern is too dense for the boundaries' size (see kMaxHatchPieces) or the boundaries
+// lie beyond the range of numbers.
 Acad::ErrorStatus clipPatternLines(const std::vector<HatchBoundary>& loops, const std::vector<int>& depths, int style,
                                    const std::vector<PatternLine>& pattern, std::vector<HatchSegment>& out);
 

@@ -4,14 +4,18 @@
 // moves it left): a line stays parallel, an arc keeps its centre and changes its radius,
 // and an arc that would shrink through its centre collapses to the chord of its moved
 // ends. Where the corner between two segments is convex on the offset side the moved
-// segments are joined by an arc about the vertex; where it is concave, by the chord
-// between their moved ends.
+// segments are joined by an arc about the vertex; where it is concave, they end where they
+// cross near the vertex (worked from the vertex, so that a nearly straight corner keeps
+// its digits), or, when they do not cross there, are bridged by the chord between their
+// moved ends.
 //
 // That raw offset is cut wherever it crosses itself, crosses the other side's raw offset,
 // or (open polylines) the circles of the offset distance about the two ends. A piece is
-// kept when its middle lies at least the distance from every part of the polyline (and,
-// for a closed polyline, on the offset side: inside or outside); kept pieces are joined end
-// to start. A closed polyline thus gives the edge of the area at least the distance from
+// kept when it runs along no bridging chord (every inner point of one lies nearer the
+// vertex than the distance), and its middle lies at least the distance from every part of
+// the polyline (and, for a closed polyline, on the offset side: inside or outside); kept
+// pieces are joined end to start, and what joins up no longer than the joining tolerance
+// is dropped. A closed polyline thus gives the edge of the area at least the distance from
 // it on its offset side, an open one the parts of its moved curve that keep the distance.
 //
 // "Ordinary" polylines, for which this is exactly the host's offset: open or closed,

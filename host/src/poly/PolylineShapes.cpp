@@ -18,8 +18,8 @@ void polylineShapes(const PolylineView& view, std::vector<hostents::CurveShape>&
             // Arc shapes run counter-clockwise about the normal: a clockwise segment is
             // the same arc from its end to its start.
             const AcGePoint2d center = seg.center();
-            const AcGePoint2d from = seg.sweep() > 0.0 ? seg.start() : seg.end();
-            const double startAngle = std::atan2(from.y - center.y, from.x - center.x);
+            const AcGeVector2d from = seg.radialAt(seg.sweep() > 0.0 ? 0.0 : 1.0);
+            const double startAngle = std::atan2(from.y, from.x);
             shapes.push_back(hostents::CurveShape::circular(hostents::ArcGeometry(
                 frame.toWorld(center), seg.radius(), frame.normal, startAngle, std::fabs(seg.sweep()))));
         }

@@ -30,13 +30,17 @@ double cross(const AcGeVector2d& a, const AcGeVector2d& b)
     return a.x * b.y - a.y * b.x;
 }
 
-// The fraction of a point on the segment's line or circle, arcs measured so that points
-// near either end come out near 0 or 1.
+// Arc fractions are taken from here, so that points near either end of an arc come out
+// near 0 or 1.
+double nearEnds(const BulgeSegment& seg)
+{
+    return seg.isArc() ? -(seg.fullTurnFraction() - 1.0) / 2.0 : 0.0;
+}
+
+// The fraction of a point on the segment's line or circle.
 double fractionOf(const BulgeSegment& seg, const AcGePoint2d& p)
 {
-    if (!seg.isArc())
-        return seg.nearestFractionExtended(p, 0.0);
-    return seg.nearestFractionExtended(p, -(seg.fullTurnFraction() - 1.0) / 2.0);
+    return seg.nearestFractionNearEnds(p);
 }
 
 bool within(const BulgeSegment& seg, double t, bool extended)
@@ -48,35 +52,15 @@ bool within(const BulgeSegment& seg, double t, bool extended)
     return t >= -eps && t <= 1.0 + eps;
 }
 
-// Points where a line (through p along d) meets a circle: up to two, as parameters along d.
-int lineCircle(const AcGePoint2d& p, const AcGeVector2d& d, const AcGePoint2d& c, double r, double s[2])
-{
-    const double dd = d.lengthSqrd();
-    if (dd == 0.0)
-        return 0;
-    const double along = (c - p).dotProduct(d) / dd;
-    const AcGePoint2d foot = p + d * along;
-    const double h = foot.distanceTo(c);
-    if (h > r + kHitTolerance)
-        return 0;
-    const double half = std::sqrt(std::max(0.0, r * r - h * h));
-    if (half <= kHitTolerance) {
-        s[0] = along;
-        return 1;
-    }
-    const double step = half / std::sqrt(dd);
-    s[0] = along - step;
-    s[1] = along + step;
-    return 2;
-}
-
 }  // namespace
 
+// Arcs are met from their start points (never about their centres), so that a nearly
+// straight arc's meeting points keep their digits.
 int intersectSegments(const BulgeSegment& a, const BulgeSegment& b, SegmentHit hits[2], bool extendA, bool extendB)
 {
     if (a.isDegenerate() || b.isDegenerate())
         return 0;
-    AcGePoint2d candidates[2];
+    SegmentHit candidates[2];
     int count = 0;
     if (!a.isArc() && !b.isArc()) {
         const AcGeVector2d da = a.end() - a.start();
@@ -85,40 +69,39 @@ int intersectSegments(const BulgeSegment& a, const BulgeSegment& b, SegmentHit h
         if (std::fabs(den) <= 1e-12 * da.length() * db.length())
             return 0;
         const double s = cross(b.start() - a.start(), db) / den;
-        candidates[count++] = a.start() + da * s;
+        candidates[count].point = a.start() + da * s;
+        candidates[count].ta = s;
+        candidates[count].tb = fractionOf(b, candidates[count].point);
+        ++count;
     } else if (!a.isArc() || !b.isArc()) {
-        const BulgeSegment& line = a.isArc() ? b : a;
-        const BulgeSegment& arc = a.isArc() ? a : b;
-        double s[2];
-        const AcGeVector2d d = line.end() - line.start();
-        const int n = lineCircle(line.start(), d, arc.center(), arc.radius(), s);
-        for (int i = 0; i < n; ++i)
-            candidates[count++] = line.start() + d * s[i];
+        const bool lineFirst = !a.isArc();
+        const BulgeSegment& line = lineFirst ? a : b;
+        const BulgeSegment& arc = lineFirst ? b : a;
+        const AcGeVector2d across = (line.end() - line.start()).perpVector();
+        double t[2];
+        const int n = arc.lineCrossingFractions(line.start(), across, nearEnds(arc), t);
+        for (int i = 0; i < n; ++i) {
+            const AcGePoint2d p = arc.pointAt(t[i]);
+            const double s = fractionOf(line, p);
+            candidates[count++] = {lineFirst ? s : t[i], lineFirst ? t[i] : s, p};
+        }
     } else {
-        const AcGePoint2d ca = a.center();
-        const AcGePoint2d cb = b.center();
-        const double ra = a.radius();
-        const double rb = b.radius();
-        const AcGeVector2d between = cb - ca;
-        const double d = between.length();
-        if (d <= kHitTolerance || d > ra + rb + kHitTolerance || d < std::fabs(ra - rb) - kHitTolerance)
-            return 0;
-        const AcGeVector2d u = between / d;
-        const double x = (ra * ra - rb * rb + d * d) / (2.0 * d);
-        const double h = std::sqrt(std::max(0.0, ra * ra - x * x));
-        candidates[count++] = ca + u * x + u.perpVector() * h;
-        if (h > kHitTolerance)
-            candidates[count++] = ca + u * x - u.perpVector() * h;
+        double t[2];
+        const int n = a.circleCrossingFractions(b, nearEnds(a), t);
+        for (int i = 0; i < n; ++i) {
+            const AcGePoint2d p = a.pointAt(t[i]);
+            candidates[count++] = {t[i], fractionOf(b, p), p};
+        }
     }
     int found = 0;
     for (int i = 0; i < count; ++i) {
-        const double ta = fractionOf(a, candidates[i]);
-        const double tb = fractionOf(b, candidates[i]);
+        const double ta = candidates[i].ta;
+        const double tb = candidates[i].tb;
         if (!within(a, ta, extendA) || !within(b, tb, extendB))
             continue;
         hits[found].ta = extendA ? ta : std::clamp(ta, 0.0, 1.0);
         hits[found].tb = extendB ? tb : std::clamp(tb, 0.0, 1.0);
-        hits[found].point = candidates[i];
+        hits[found].point = candidates[i].point;
         ++found;
     }
     return found;
