@@ -6,6 +6,8 @@
 #include "geometry/QxPolylineBasedCurve.h"
 #include "lines/AecDivisionLine.h"
 #include "openings/AecCircleOpening.h"
+#include "openings/AecRectOpening.h"
+#include "openings/OpeningGripData.h"
 #include "rxboiler.h"
 
 namespace Quarvo {
@@ -33,9 +35,12 @@ const std::vector<ClassEntry>& RegistrationTable()
         // Steps 1-2: AecPanel, AecPanelLite.
         Entry<QxPolylineBasedCurve>(L"QxPolylineBasedCurve"),  // step 3
         Entry<AecDivisionLine>(L"AecDivisionLine"),            // step 4
-        // Steps 5-12: the other four lines, the layout boundary, OpeningGripData and the
-        // rectangular and polygonal openings.
-        Entry<AecCircleOpening>(L"AecCircleOpening"),  // step 13
+        // Steps 5-8: the other four lines.
+        // Step 9: the layout boundary.
+        Entry<AecRectOpeningUnits::OpeningGripData>(L"OpeningGripData"),  // step 10
+        Entry<AecRectOpening>(L"AecRectOpening"),                         // step 11
+        // Step 12: the polygonal opening.
+        Entry<AecCircleOpening>(L"AecCircleOpening"),                     // step 13
     };
     return table;
 }
@@ -44,7 +49,9 @@ const std::vector<ClassEntry>& RegistrationTable()
 const std::vector<ClassEntry>& TearDownTable()
 {
     static const std::vector<ClassEntry> table = {
-        // AecPanel, AecPanelLite, AecRectOpening, OpeningGripData.
+        // AecPanel, AecPanelLite.
+        Entry<AecRectOpening>(L"AecRectOpening"),
+        Entry<AecRectOpeningUnits::OpeningGripData>(L"OpeningGripData"),
         Entry<AecDivisionLine>(L"AecDivisionLine"),
         // AecOverlapLine, AecStructuralLine, AecSteelMember, AecShouBianLine.
         Entry<QxPolylineBasedCurve>(L"QxPolylineBasedCurve"),

@@ -7,6 +7,7 @@
 
 #include "lines/AecDivisionLine.h"
 #include "openings/AecCircleOpening.h"
+#include "openings/AecRectOpening.h"
 
 template <typename T>
 struct ConformanceCase;
@@ -58,4 +59,24 @@ struct ConformanceCase<AecDivisionLine> {
     }
 };
 
-using ConformanceTypes = ::testing::Types<AecCircleOpening, AecDivisionLine>;
+template <>
+struct ConformanceCase<AecRectOpening> {
+    using HostBase = AcDbCurve;
+    static AecRectOpening* MakeSample()
+    {
+        auto* opening = new AecRectOpening();
+        opening->Set(AcGePoint3d(2000, 1500, 0), 1200, 800);
+        opening->SetDirX(AcGeVector3d(3, 1, 0));
+        opening->SetAnchorPosType(AecRectOpening::kCenter);
+        opening->SetTitleText(L"RO-1 1200x800");
+        opening->SetIsShowDim(true);
+        return opening;
+    }
+    static void Edit(AecRectOpening* opening)
+    {
+        opening->SetWidth(1500);
+        opening->SetTitleText(L"RO-1 1500x800");
+    }
+};
+
+using ConformanceTypes = ::testing::Types<AecCircleOpening, AecDivisionLine, AecRectOpening>;
