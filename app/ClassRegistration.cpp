@@ -6,6 +6,7 @@
 #include "geometry/QxPolylineBasedCurve.h"
 #include "lines/AecDivisionLine.h"
 #include "openings/AecCircleOpening.h"
+#include "openings/AecPolyOpening.h"
 #include "openings/AecRectOpening.h"
 #include "openings/OpeningGripData.h"
 #include "rxboiler.h"
@@ -39,7 +40,7 @@ const std::vector<ClassEntry>& RegistrationTable()
         // Step 9: the layout boundary.
         Entry<AecRectOpeningUnits::OpeningGripData>(L"OpeningGripData"),  // step 10
         Entry<AecRectOpening>(L"AecRectOpening"),                         // step 11
-        // Step 12: the polygonal opening.
+        Entry<AecPolyOpening>(L"AecPolyOpening"),                         // step 12
         Entry<AecCircleOpening>(L"AecCircleOpening"),                     // step 13
     };
     return table;
@@ -55,7 +56,7 @@ const std::vector<ClassEntry>& TearDownTable()
         Entry<AecDivisionLine>(L"AecDivisionLine"),
         // AecOverlapLine, AecStructuralLine, AecSteelMember, AecShouBianLine.
         Entry<QxPolylineBasedCurve>(L"QxPolylineBasedCurve"),
-        // AecPolyOpening.
+        Entry<AecPolyOpening>(L"AecPolyOpening"),
         Entry<AecCircleOpening>(L"AecCircleOpening"),
         // AecLayoutBoundary.
     };

@@ -7,6 +7,7 @@
 
 #include "lines/AecDivisionLine.h"
 #include "openings/AecCircleOpening.h"
+#include "openings/AecPolyOpening.h"
 #include "openings/AecRectOpening.h"
 
 template <typename T>
@@ -79,4 +80,32 @@ struct ConformanceCase<AecRectOpening> {
     }
 };
 
-using ConformanceTypes = ::testing::Types<AecCircleOpening, AecDivisionLine, AecRectOpening>;
+template <>
+struct ConformanceCase<AecPolyOpening> {
+    using HostBase = AcDbPolyline;
+    // A pentagon whose top is an arc.
+    static AecPolyOpening* MakeSample()
+    {
+        auto* opening = new AecPolyOpening();
+        opening->addVertexAt(0, AcGePoint2d(0, 0));
+        opening->addVertexAt(1, AcGePoint2d(3000, 0));
+        opening->addVertexAt(2, AcGePoint2d(3000, 1500), 0.3);
+        opening->addVertexAt(3, AcGePoint2d(1000, 2200));
+        opening->addVertexAt(4, AcGePoint2d(0, 1500));
+        opening->setClosed(Adesk::kTrue);
+        PolyOpeningData data = opening->GetData();
+        data.titleText = L"异形窗 W-3";
+        data.colorIndex = 5;
+        data.ResizeSegmentLabels(2);
+        data.segmentLabels[1].SetLabel(L"右边");
+        opening->SetData(data);
+        return opening;
+    }
+    static void Edit(AecPolyOpening* opening)
+    {
+        opening->setPointAt(3, AcGePoint2d(1200, 2400));
+        opening->SetDisplayAidTitle(L"异形窗 W-4");
+    }
+};
+
+using ConformanceTypes = ::testing::Types<AecCircleOpening, AecDivisionLine, AecRectOpening, AecPolyOpening>;
