@@ -6,6 +6,7 @@
 #include "geometry/QxPolylineBasedCurve.h"
 #include "lines/AecDivisionLine.h"
 #include "openings/AecCircleOpening.h"
+#include "openings/AecLayoutBoundary.h"
 #include "openings/AecPolyOpening.h"
 #include "openings/AecRectOpening.h"
 #include "openings/OpeningGripData.h"
@@ -37,7 +38,7 @@ const std::vector<ClassEntry>& RegistrationTable()
         Entry<QxPolylineBasedCurve>(L"QxPolylineBasedCurve"),  // step 3
         Entry<AecDivisionLine>(L"AecDivisionLine"),            // step 4
         // Steps 5-8: the other four lines.
-        // Step 9: the layout boundary.
+        Entry<AecLayoutBoundary>(L"AecLayoutBoundary"),                   // step 9
         Entry<AecRectOpeningUnits::OpeningGripData>(L"OpeningGripData"),  // step 10
         Entry<AecRectOpening>(L"AecRectOpening"),                         // step 11
         Entry<AecPolyOpening>(L"AecPolyOpening"),                         // step 12
@@ -58,7 +59,7 @@ const std::vector<ClassEntry>& TearDownTable()
         Entry<QxPolylineBasedCurve>(L"QxPolylineBasedCurve"),
         Entry<AecPolyOpening>(L"AecPolyOpening"),
         Entry<AecCircleOpening>(L"AecCircleOpening"),
-        // AecLayoutBoundary.
+        Entry<AecLayoutBoundary>(L"AecLayoutBoundary"),
     };
     return table;
 }

@@ -7,6 +7,7 @@
 
 #include "lines/AecDivisionLine.h"
 #include "openings/AecCircleOpening.h"
+#include "openings/AecLayoutBoundary.h"
 #include "openings/AecPolyOpening.h"
 #include "openings/AecRectOpening.h"
 
@@ -108,4 +109,33 @@ struct ConformanceCase<AecPolyOpening> {
     }
 };
 
-using ConformanceTypes = ::testing::Types<AecCircleOpening, AecDivisionLine, AecRectOpening, AecPolyOpening>;
+template <>
+struct ConformanceCase<AecLayoutBoundary> {
+    using HostBase = AcDbPolyline;
+    static AecLayoutBoundary* MakeSample()
+    {
+        auto* boundary = new AecLayoutBoundary();
+        boundary->addVertexAt(0, AcGePoint2d(-500, -500));
+        boundary->addVertexAt(1, AcGePoint2d(9500, -500));
+        boundary->addVertexAt(2, AcGePoint2d(9500, 6500), -0.2);
+        boundary->addVertexAt(3, AcGePoint2d(-500, 6500));
+        boundary->setClosed(Adesk::kTrue);
+        LayoutBoundaryData data = boundary->GetImp()->GetData();
+        data.kind = 2;
+        data.titleText = L"布置轮廓 A";
+        data.titleOffset = AcGePoint3d(-1000, -2500, 0);
+        data.titleHeight = 300;
+        boundary->GetImp()->SetData(data);
+        return boundary;
+    }
+    static void Edit(AecLayoutBoundary* boundary)
+    {
+        boundary->setPointAt(1, AcGePoint2d(10500, -500));
+        LayoutBoundaryData data = boundary->GetImp()->GetData();
+        data.titleHeight = 350;
+        boundary->GetImp()->SetData(data);
+    }
+};
+
+using ConformanceTypes =
+    ::testing::Types<AecCircleOpening, AecDivisionLine, AecRectOpening, AecPolyOpening, AecLayoutBoundary>;
