@@ -16,6 +16,8 @@ constexpr double kRelativePrecision = 1e-3;
 // An upper bound on point-to-edge distance evaluations, so that a polygon of very many
 // vertices still costs milliseconds; the search then returns the best point so far.
 constexpr std::size_t kEvaluationBudget = 1000000;
+// The first grid has at most this many cells along the polygon's longer side.
+constexpr double kMaxInitialCellsAcross = 64.0;
 // Arcs become chords of at most this angle (radians) for label placement.
 constexpr double kArcStepAngle = 3.14159265358979323846 / 16.0;
 constexpr int kMaxChordsPerArc = 32;
@@ -109,16 +111,24 @@ bool PolygonInnerPoint::Find(const std::vector<AcGePoint2d>& polygon, AcGePoint2
         maxX = std::max(maxX, p.x);
         maxY = std::max(maxY, p.y);
     }
-    const AcGePoint2d boxCenter((minX + maxX) * 0.5, (minY + maxY) * 0.5);
-    const double cellSize = std::min(maxX - minX, maxY - minY);
+    const double width = maxX - minX;
+    const double height = maxY - minY;
+    if (!std::isfinite(width) || !std::isfinite(height))
+        return false;
+    const AcGePoint2d boxCenter(minX + width * 0.5, minY + height * 0.5);
     double area = 0.0;
     const AcGePoint2d centroid = polygon.size() >= 3 ? Centroid(polygon, area) : boxCenter;
-    if (polygon.size() < 3 || area == 0.0 || !(cellSize > 0.0) || !std::isfinite(cellSize)) {
+    if (polygon.size() < 3 || area == 0.0 || !std::isfinite(area) || !(std::min(width, height) > 0.0)) {
         point = boxCenter;
         return true;
     }
+    // Square cells as wide as the polygon is narrow, but never more than a grid's worth
+    // of them across a long thin polygon.
+    const double cellSize = std::max(std::min(width, height), std::max(width, height) / kMaxInitialCellsAcross);
+    const int columns = static_cast<int>(std::ceil(width / cellSize));
+    const int rows = static_cast<int>(std::ceil(height / cellSize));
 
-    const double precision = kRelativePrecision * std::max(maxX - minX, maxY - minY);
+    const double precision = kRelativePrecision * std::max(width, height);
     std::size_t evaluations = 0;
     std::vector<Cell> evaluated;
     auto makeCell = [&](const AcGePoint2d& center, double half) {
@@ -131,9 +141,9 @@ bool PolygonInnerPoint::Find(const std::vector<AcGePoint2d>& polygon, AcGePoint2
 
     std::priority_queue<Cell, std::vector<Cell>, ByPotential> queue;
     const double half = cellSize * 0.5;
-    for (double x = minX; x < maxX; x += cellSize) {
-        for (double y = minY; y < maxY; y += cellSize)
-            queue.push(makeCell(AcGePoint2d(x + half, y + half), half));
+    for (int column = 0; column < columns; ++column) {
+        for (int row = 0; row < rows; ++row)
+            queue.push(makeCell(AcGePoint2d(minX + column * cellSize + half, minY + row * cellSize + half), half));
     }
     double bestDistance = makeCell(centroid, 0.0).distance;
     bestDistance = std::max(bestDistance, makeCell(boxCenter, 0.0).distance);

@@ -14,8 +14,8 @@ public:
     // The polygon is closed implicitly. Found to within a thousandth of the polygon's
     // larger extent: among the points that good, the one nearest the centroid, so that a
     // polygon with a ridge of equally good points (a long rectangle) gives its centre.
-    // Fewer than three points or no area: the centre of the points' extents. No points:
-    // false.
+    // Fewer than three points or no area: the centre of the points' extents. No points,
+    // or coordinates too far apart to measure: false.
     static bool Find(const std::vector<AcGePoint2d>& polygon, AcGePoint2d& point);
 
     // The polyline's vertices in its own plane, arcs replaced by chords fine enough for

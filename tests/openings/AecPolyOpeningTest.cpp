@@ -171,6 +171,8 @@ TEST_F(AecPolyOpeningTest, TheInnerPointLiesDeepInsideConcaveOutlines)
         // Its centroid (1500, 916.7) lies in the notch, outside.
         {"U", {{0, 0}, {3000, 0}, {3000, 2000}, {2000, 2000}, {2000, 500}, {1000, 500}, {1000, 2000}, {0, 2000}}, 500},
         {"right triangle 3-4-5 x 1000", {{0, 0}, {4000, 0}, {0, 3000}}, 1000},
+        // Once made the first grid of cells a million cells long.
+        {"a strip a million times longer than wide", {{0, 0}, {1e6, 0}, {1e6, 1}, {0, 1}}, 0.5},
     };
     struct Variant {
         const char* what;
@@ -218,6 +220,18 @@ TEST_F(AecPolyOpeningTest, TheInnerPointLiesDeepInsideConcaveOutlines)
     const auto plain = qxtest::Draw(&square);
     ASSERT_EQ(plain.size(), 2u);
     EXPECT_TRUE(qxtest::Near(plain[1].points[0], AcGePoint3d(50, 350, 0), 1e-9));
+}
+
+// An outline whose extent cannot be measured has no inner point: it draws only itself.
+TEST_F(AecPolyOpeningTest, AnOutlineTooLargeToMeasureDrawsNoTitleOrCross)
+{
+    AecPolyOpening opening;
+    SetOutline(opening, {{0, 0}, {1e308, 0}, {-1e308, 1e308}}, true);
+    AcGePoint3d inner;
+    EXPECT_FALSE(opening.GetInnerReferencePoint(inner));
+    const auto drawn = qxtest::Draw(&opening);
+    ASSERT_EQ(drawn.size(), 1u);
+    EXPECT_EQ(drawn[0].kind, headless::PrimitiveKind::kPline);
 }
 
 TEST_F(AecPolyOpeningTest, ANewOpeningListsItsShapeTitleStyleAndInspectMode)
