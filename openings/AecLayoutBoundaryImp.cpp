@@ -68,10 +68,7 @@ Acad::ErrorStatus AecLayoutBoundaryImp::dwgOutFields(AcDbDwgFiler* filer) const
     if (filer == nullptr)
         return Acad::eNullObjectPointer;
     filer->writeInt32(kCurrentVersion);
-    const Acad::ErrorStatus es = m_data.dwgOutFields(filer);
-    if (es != Acad::eOk)
-        return es;
-    return filer->filerStatus();
+    return m_data.dwgOutFields(filer);
 }
 
 Acad::ErrorStatus AecLayoutBoundaryImp::dwgInFields(AcDbDwgFiler* filer)
@@ -82,8 +79,5 @@ Acad::ErrorStatus AecLayoutBoundaryImp::dwgInFields(AcDbDwgFiler* filer)
     filer->readInt32(&version);
     if (version > kCurrentVersion)
         return Acad::eMakeMeProxy;
-    const Acad::ErrorStatus es = m_data.dwgInFields(filer);
-    if (es != Acad::eOk)
-        return es;
-    return filer->filerStatus();
+    return m_data.dwgInFields(filer);
 }
