@@ -1,22 +1,12 @@
 // AecRectOpening: editing through the host: transformation, the five grips and edits of
 // the rectangle through the curve interface.
-#include <cmath>
+#include <memory>
+#include <utility>
 
 #include "AecRectOpening.h"
 #include "AecRectOpeningImp.h"
 
 using AecRectOpeningUnits::OpeningGripData;
-
-namespace {
-
-bool IsUsableFrame(const RectOpeningFrame& frame)
-{
-    return std::isfinite(frame.width) && frame.width > 0.0 && std::isfinite(frame.height) && frame.height > 0.0 &&
-        std::isfinite(frame.anchor.x) && std::isfinite(frame.anchor.y) && std::isfinite(frame.anchor.z) &&
-        !AcGeVector3d(frame.dirX.x, frame.dirX.y, 0.0).isZeroLength();
-}
-
-}  // namespace
 
 // The rectangle is mapped corner by corner and re-anchored for its type; a matrix that
 // collapses it (zero scale, a view along the plane) is refused with nothing changed. The
@@ -26,7 +16,7 @@ Acad::ErrorStatus AecRectOpening::subTransformBy(const AcGeMatrix3d& xform)
     assertWriteEnabled();
     RectOpeningFrame frame = m_imp->frame;
     frame.TransformBy(xform);
-    if (!IsUsableFrame(frame))
+    if (!frame.IsUsable())
         return Acad::eInvalidInput;
     m_imp->frame = frame;
     m_imp->title.TransformBy(xform);
@@ -40,12 +30,15 @@ Acad::ErrorStatus AecRectOpening::subGetGripPoints(AcDbGripDataPtrArray& grips, 
     assertReadEnabled();
     Imp& imp = *m_imp;
     imp.grips.clear();
-    imp.grips.push_back(std::make_unique<OpeningGripData>());
-    grips.append(new AcDbGripData(imp.frame.Center(), imp.grips.back().get()));
-    for (int edge = 0; edge < 4; ++edge) {
-        imp.grips.push_back(std::make_unique<OpeningGripData>(edge));
-        grips.append(new AcDbGripData(imp.frame.EdgeMidpoint(edge), imp.grips.back().get()));
-    }
+    auto handOut = [&](std::unique_ptr<OpeningGripData> record, const AcGePoint3d& point) {
+        auto* grip = new AcDbGripData(point, record.get());
+        grip->setAppDataAcRxClass(OpeningGripData::desc());
+        imp.grips.push_back(std::move(record));
+        grips.append(grip);
+    };
+    handOut(std::make_unique<OpeningGripData>(), imp.frame.Center());
+    for (int edge = 0; edge < 4; ++edge)
+        handOut(std::make_unique<OpeningGripData>(edge), imp.frame.EdgeMidpoint(edge));
     return Acad::eOk;
 }
 
@@ -119,7 +112,7 @@ void AecRectOpening::OnEndModifyPolyline()
     frame.height = c1.distanceTo(c3);
     const AcGeVector3d side = c1 - c0;
     frame.dirX = AcGeVector3d(side.x, side.y, 0.0);
-    if (!IsUsableFrame(frame)) {
+    if (!frame.IsUsable()) {
         imp.RebuildRectangle();
         return;
     }

@@ -1,6 +1,7 @@
 // OpeningGripData: what one grip of a rectangular opening stands for (the whole opening, or
 // one of its four edges). The opening owns these while the host holds its grips; each grip
-// it hands out points to one of them. Registered plainly: it is never filed.
+// it hands out points to one of them and names this class as its data's class.
+// Registered plainly: it is never filed.
 #pragma once
 
 #include "dbmain.h"

@@ -1,6 +1,8 @@
 // RectOpeningFrame: corners from the anchor, and the anchor from corners.
 #include "RectOpeningFrame.h"
 
+#include <cmath>
+
 namespace {
 
 // How far the bottom-left corner lies from the anchor of each type, in widths along u and
@@ -24,6 +26,13 @@ bool IsKnownType(Adesk::Int32 type)
 }
 
 }  // namespace
+
+bool RectOpeningFrame::IsUsable() const
+{
+    return std::isfinite(width) && width > 0.0 && std::isfinite(height) && height > 0.0 && std::isfinite(anchor.x) &&
+           std::isfinite(anchor.y) && std::isfinite(anchor.z) && std::isfinite(dirX.x) && std::isfinite(dirX.y) &&
+           !AcGeVector3d(dirX.x, dirX.y, 0.0).isZeroLength();
+}
 
 AcGeVector3d RectOpeningFrame::U() const
 {

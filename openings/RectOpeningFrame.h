@@ -21,6 +21,9 @@ struct RectOpeningFrame {
     double width = 1000.0;
     double height = 1000.0;
 
+    // Positive finite sizes, a finite anchor and a direction with an XY part.
+    bool IsUsable() const;
+
     // The width direction in the XY plane, normalised (the X axis for a vertical or zero
     // direction); v is u turned by +90 degrees.
     AcGeVector3d U() const;

@@ -16,6 +16,7 @@
 #include "headless/RecordingWorldDraw.h"
 #include "headless/TextCodec.h"
 #include "openings/AecRectOpening.h"
+#include "rxregsvc.h"
 
 namespace {
 
@@ -213,8 +214,13 @@ TEST_F(AecRectOpeningTest, GripsMoveTheOpeningOrOneEdgeAndKeepTheMinimumSize)
         ASSERT_EQ(opening->getGripPoints(grips, 1.0, 5, AcGeVector3d::kZAxis, 0), Acad::eOk);
         const AcGePoint3d expected[] = {{300, 200, 0}, {300, 0, 0}, {600, 200, 0}, {300, 400, 0}, {0, 200, 0}};
         ASSERT_EQ(grips.length(), 5);
-        for (int i = 0; i < 5; ++i)
+        // Each grip says what its application data is: the grip object's runtime class.
+        const AcRxClass* gripClass = acrxFindAcRxClass(L"OpeningGripData");
+        ASSERT_NE(gripClass, nullptr);
+        for (int i = 0; i < 5; ++i) {
             EXPECT_TRUE(qxtest::Near(grips[i]->gripPoint(), expected[i])) << "grip " << i;
+            EXPECT_EQ(grips[i]->appDataAcRxClass(), gripClass);
+        }
         opening->gripStatus(AcDb::kGripsToBeDeleted);
         for (AcDbGripData* grip : grips)
             delete grip;
