@@ -378,7 +378,7 @@ TEST_F(AecRectOpeningTest, DimensionsAreDrawnAndExplodedAsTheStyleSays)
         }
         auto* text = AcDbText::cast(static_cast<AcDbEntity*>(pieces[first + 5]));
         ASSERT_NE(text, nullptr);
-        EXPECT_EQ(std::wstring(text->textString()), measure);
+        EXPECT_EQ(std::wstring(text->textStringConst()), measure);
         EXPECT_EQ(text->height(), 250);
         EXPECT_TRUE(qxtest::Near(text->alignmentPoint(), textAt, 1e-9));
         EXPECT_NEAR(text->rotation(), std::atan2(reading.y, reading.x), 1e-12);
