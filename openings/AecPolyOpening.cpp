@@ -117,9 +117,15 @@ bool AecPolyOpening::GetInnerReferencePoint(AcGePoint3d& point) const
     AcGePoint2d inner;
     if (!PolygonInnerPoint::Find(PolygonInnerPoint::Flatten(*this), inner))
         return false;
-    point = AcGePoint3d(inner.x, inner.y, elevation());
-    point.transformBy(AcGeMatrix3d::planeToWorld(normal()));
+    point = OutlineToWorld() * AcGePoint3d(inner.x, inner.y, elevation());
     return true;
+}
+
+AcGeMatrix3d AecPolyOpening::OutlineToWorld() const
+{
+    const AcGeVector3d n = normal();
+    const bool usable = std::isfinite(n.x) && std::isfinite(n.y) && std::isfinite(n.z) && !n.isZeroLength();
+    return AcGeMatrix3d::planeToWorld(usable ? n : AcGeVector3d::kZAxis);
 }
 
 AcDbObjectId AecPolyOpening::ResolveTextStyle(bool* fellBack) const

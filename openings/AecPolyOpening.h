@@ -56,6 +56,9 @@ private:
     // The record's text style when the drawing has it, else the drawing's current one
     // (fellBack set); the entity's drawing, or the working one when it has none.
     AcDbObjectId ResolveTextStyle(bool* fellBack = nullptr) const;
+    // From the outline's own plane to the world; a normal that cannot be used (zero or not
+    // finite, as only damaged data has it) counts as the Z axis.
+    AcGeMatrix3d OutlineToWorld() const;
 
     std::unique_ptr<PolyOpeningData> m_data;
 };

@@ -100,7 +100,7 @@ Adesk::Boolean AecPolyOpening::subWorldDraw(AcGiWorldDraw* worldDraw)
 
     const double labelHeight = data.segmentLabelHeight;
     if (data.enableSegmentLabels && IsInspectMode() && IsPositive(labelHeight) && n >= 2) {
-        const AcGeMatrix3d toWorld = AcGeMatrix3d::planeToWorld(normal());
+        const AcGeMatrix3d toWorld = OutlineToWorld();
         const unsigned int segments = isClosed() ? n : n - 1;
         for (unsigned int i = 0; i < segments; ++i) {
             AcGePoint2d p;
