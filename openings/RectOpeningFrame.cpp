@@ -30,8 +30,8 @@ bool IsKnownType(Adesk::Int32 type)
 bool RectOpeningFrame::IsUsable() const
 {
     return std::isfinite(width) && width > 0.0 && std::isfinite(height) && height > 0.0 && std::isfinite(anchor.x) &&
-           std::isfinite(anchor.y) && std::isfinite(anchor.z) && std::isfinite(dirX.x) && std::isfinite(dirX.y) &&
-           !AcGeVector3d(dirX.x, dirX.y, 0.0).isZeroLength();
+        std::isfinite(anchor.y) && std::isfinite(anchor.z) && std::isfinite(dirX.x) && std::isfinite(dirX.y) &&
+        !AcGeVector3d(dirX.x, dirX.y, 0.0).isZeroLength();
 }
 
 AcGeVector3d RectOpeningFrame::U() const
