@@ -5,12 +5,12 @@
 
 #include <cmath>
 #include <stdexcept>
-#include <vector>
 
 #include "AecRectOpeningImp.h"
 #include "OpeningStyles.h"
 #include "app/ModuleClassFlags.h"
 #include "data/DwgFilerIoAdapter.h"
+#include "data/TypedArrayRecord.h"
 #include "dbapserv.h"
 #include "dbfiler.h"
 
@@ -60,27 +60,6 @@ void CheckWidth(double width)
 void CheckHeight(double height)
 {
     CheckSize(height, "Height must be positive", "Height must be finite");
-}
-
-// Reads one group of the record: its count, then that many values, handing each to take
-// with its position. A negative count cannot come from any writer: the filer is told the
-// record is damaged. Reading stops where the filer fails, so a hostile count costs no
-// more than the data that is really there.
-template <typename T, typename Take>
-void ReadGroup(AcDbDwgFiler* filer, IDataIO& io, Take take)
-{
-    Adesk::Int32 count = 0;
-    io.Read(count);
-    if (count < 0) {
-        filer->setFilerStatus(Acad::eDwgObjectImproperlyRead);
-        return;
-    }
-    for (Adesk::Int32 i = 0; i < count && filer->filerStatus() == Acad::eOk; ++i) {
-        T value{};
-        io.Read(value);
-        if (filer->filerStatus() == Acad::eOk)
-            take(i, value);
-    }
 }
 
 }  // namespace
@@ -341,22 +320,15 @@ Acad::ErrorStatus AecRectOpening::dwgOutFields(AcDbDwgFiler* filer) const
     filer->writeInt32(kCurrentVersion);
 
     const Imp& imp = *m_imp;
+    TypedArrayRecord record;
+    record.bools = {imp.showDim};
+    record.ints = {imp.frame.anchorType};
+    record.doubles = {imp.frame.width, imp.frame.height};
+    record.vectors = {imp.frame.dirX};
+    record.points = {imp.frame.anchor};
+    record.hardIds = {imp.textStyleId, imp.dimStyleId};
     DwgFilerIoAdapter io(filer);
-    io.Write(Adesk::Int32(1));
-    io.Write(imp.showDim);
-    io.Write(Adesk::Int32(1));
-    io.Write(imp.frame.anchorType);
-    io.Write(Adesk::Int32(2));
-    io.Write(imp.frame.width);
-    io.Write(imp.frame.height);
-    io.Write(Adesk::Int32(0));  // strings
-    io.Write(Adesk::Int32(1));
-    io.Write(imp.frame.dirX);
-    io.Write(Adesk::Int32(1));
-    io.Write(imp.frame.anchor);
-    io.Write(Adesk::Int32(0));  // 2D points
-    io.Write(std::vector<AcDbSoftPointerId>());
-    io.Write(std::vector<AcDbHardPointerId>{imp.textStyleId, imp.dimStyleId});
+    record.Write(io);
 
     DataNodeRoot::DataOut(filer);
     return filer->filerStatus();
@@ -382,38 +354,27 @@ Acad::ErrorStatus AecRectOpening::dwgInFields(AcDbDwgFiler* filer)
 
     Imp& imp = *m_imp;
     RectOpeningFrame& frame = imp.frame;
+    TypedArrayRecord record;
     DwgFilerIoAdapter io(filer);
-    ReadGroup<bool>(filer, io, [&](Adesk::Int32 i, bool value) {
-        if (i == 0)
-            imp.showDim = value;
-    });
-    ReadGroup<Adesk::Int32>(filer, io, [&](Adesk::Int32 i, Adesk::Int32 value) {
-        if (i == 0)
-            frame.anchorType = value;
-    });
-    ReadGroup<double>(filer, io, [&](Adesk::Int32 i, double value) {
-        if (i == 0 && IsUsableSize(value))
-            frame.width = value;
-        else if (i == 1 && IsUsableSize(value))
-            frame.height = value;
-    });
-    ReadGroup<AcString>(filer, io, [](Adesk::Int32, const AcString&) {});
-    ReadGroup<AcGeVector3d>(filer, io, [&](Adesk::Int32 i, const AcGeVector3d& value) {
-        if (i == 0 && IsUsableDirection(value))
-            frame.dirX = AcGeVector3d(value.x, value.y, 0.0);
-    });
-    ReadGroup<AcGePoint3d>(filer, io, [&](Adesk::Int32 i, const AcGePoint3d& value) {
-        if (i == 0 && IsFinite(value))
-            frame.anchor = value;
-    });
-    ReadGroup<AcGePoint2d>(filer, io, [](Adesk::Int32, const AcGePoint2d&) {});
-    ReadGroup<AcDbSoftPointerId>(filer, io, [](Adesk::Int32, const AcDbSoftPointerId&) {});
-    ReadGroup<AcDbHardPointerId>(filer, io, [&](Adesk::Int32 i, const AcDbHardPointerId& value) {
-        if (i == 0)
-            imp.textStyleId = value;
-        else if (i == 1)
-            imp.dimStyleId = value;
-    });
+    record.Read(io);
+    TypedArrayRecord::Take(record.bools, 0, imp.showDim);
+    TypedArrayRecord::Take(record.ints, 0, frame.anchorType);
+    double size = 0.0;
+    if (TypedArrayRecord::TakeFinite(record.doubles, 0, size) && size > 0.0)
+        frame.width = size;
+    if (TypedArrayRecord::TakeFinite(record.doubles, 1, size) && size > 0.0)
+        frame.height = size;
+    AcGeVector3d dirX;
+    if (TypedArrayRecord::Take(record.vectors, 0, dirX) && IsUsableDirection(dirX))
+        frame.dirX = AcGeVector3d(dirX.x, dirX.y, 0.0);
+    AcGePoint3d anchor;
+    if (TypedArrayRecord::Take(record.points, 0, anchor) && IsFinite(anchor))
+        frame.anchor = anchor;
+    AcDbHardPointerId style;
+    if (TypedArrayRecord::Take(record.hardIds, 0, style))
+        imp.textStyleId = style;
+    if (TypedArrayRecord::Take(record.hardIds, 1, style))
+        imp.dimStyleId = style;
 
     DataNodeRoot::DataIn(filer);
     LoadFromNode();
