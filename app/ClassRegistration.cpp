@@ -8,6 +8,10 @@
 #include "lines/AecOverlapLine.h"
 #include "lines/AecStructuralLine.h"
 #include "openings/AecCircleOpening.h"
+#include "openings/AecLayoutBoundary.h"
+#include "openings/AecPolyOpening.h"
+#include "openings/AecRectOpening.h"
+#include "openings/OpeningGripData.h"
 #include "rxboiler.h"
 
 namespace Quarvo {
@@ -37,9 +41,12 @@ const std::vector<ClassEntry>& RegistrationTable()
         Entry<AecDivisionLine>(L"AecDivisionLine"),            // step 4
         Entry<AecOverlapLine>(L"AecOverlapLine"),              // step 5
         Entry<AecStructuralLine>(L"AecStructuralLine"),        // step 6
-        // Steps 7-12: the steel member, the flashing line, the layout boundary,
-        // OpeningGripData and the rectangular and polygonal openings.
-        Entry<AecCircleOpening>(L"AecCircleOpening"),  // step 13
+        // Steps 7-8: the steel member and the flashing line.
+        Entry<AecLayoutBoundary>(L"AecLayoutBoundary"),                   // step 9
+        Entry<AecRectOpeningUnits::OpeningGripData>(L"OpeningGripData"),  // step 10
+        Entry<AecRectOpening>(L"AecRectOpening"),                         // step 11
+        Entry<AecPolyOpening>(L"AecPolyOpening"),                         // step 12
+        Entry<AecCircleOpening>(L"AecCircleOpening"),                     // step 13
     };
     return table;
 }
@@ -48,15 +55,17 @@ const std::vector<ClassEntry>& RegistrationTable()
 const std::vector<ClassEntry>& TearDownTable()
 {
     static const std::vector<ClassEntry> table = {
-        // AecPanel, AecPanelLite, AecRectOpening, OpeningGripData.
-        Entry<AecDivisionLine>(L"AecDivisionLine"),      // 5th
-        Entry<AecOverlapLine>(L"AecOverlapLine"),        // 6th
-        Entry<AecStructuralLine>(L"AecStructuralLine"),  // 7th
+        // AecPanel, AecPanelLite.
+        Entry<AecRectOpening>(L"AecRectOpening"),                         // 3rd
+        Entry<AecRectOpeningUnits::OpeningGripData>(L"OpeningGripData"),  // 4th
+        Entry<AecDivisionLine>(L"AecDivisionLine"),                       // 5th
+        Entry<AecOverlapLine>(L"AecOverlapLine"),                         // 6th
+        Entry<AecStructuralLine>(L"AecStructuralLine"),                   // 7th
         // AecSteelMember, AecShouBianLine.
-        Entry<QxPolylineBasedCurve>(L"QxPolylineBasedCurve"),
-        // AecPolyOpening.
-        Entry<AecCircleOpening>(L"AecCircleOpening"),
-        // AecLayoutBoundary.
+        Entry<QxPolylineBasedCurve>(L"QxPolylineBasedCurve"),  // 10th
+        Entry<AecPolyOpening>(L"AecPolyOpening"),              // 11th
+        Entry<AecCircleOpening>(L"AecCircleOpening"),          // 12th
+        Entry<AecLayoutBoundary>(L"AecLayoutBoundary"),        // 13th
     };
     return table;
 }

@@ -53,6 +53,10 @@ const ModuleClass kModuleClasses[] = {
     {L"AecDivisionLine", L"QxPolylineBasedCurve", L"QX_DIVISION_LINE", 33, 327, 895, true, 4, 5},
     {L"AecOverlapLine", L"QxPolylineBasedCurve", L"QX_OVERLAP_LINE", 33, 327, 895, true, 5, 6},
     {L"AecStructuralLine", L"QxPolylineBasedCurve", L"QX_STRUCTURAL_LINE", 33, 327, 895, true, 6, 7},
+    {L"AecLayoutBoundary", L"AcDbPolyline", L"QX_LAYOUT_BOUNDARY", 33, 327, 895, true, 9, 13},
+    {L"OpeningGripData", L"AcDbObject", nullptr, 0, 0, 0, false, 10, 4},
+    {L"AecRectOpening", L"QxPolylineBasedCurve", L"QX_RECT_OPENING", 33, 327, 895, true, 11, 3},
+    {L"AecPolyOpening", L"AcDbPolyline", L"QX_POLY_OPENING", 33, 327, 895, true, 12, 11},
     {L"AecCircleOpening", L"AcDbCircle", L"QX_CIRCLE_OPENING", 33, 327, 895, true, 13, 12},
 };
 

@@ -9,6 +9,9 @@
 #include "lines/AecOverlapLine.h"
 #include "lines/AecStructuralLine.h"
 #include "openings/AecCircleOpening.h"
+#include "openings/AecLayoutBoundary.h"
+#include "openings/AecPolyOpening.h"
+#include "openings/AecRectOpening.h"
 
 template <typename T>
 struct ConformanceCase;
@@ -110,4 +113,81 @@ struct ConformanceCase<AecStructuralLine> {
     }
 };
 
-using ConformanceTypes = ::testing::Types<AecCircleOpening, AecDivisionLine, AecOverlapLine, AecStructuralLine>;
+template <>
+struct ConformanceCase<AecRectOpening> {
+    using HostBase = AcDbCurve;
+    static AecRectOpening* MakeSample()
+    {
+        auto* opening = new AecRectOpening();
+        opening->Set(AcGePoint3d(2000, 1500, 0), 1200, 800);
+        opening->SetDirX(AcGeVector3d(3, 1, 0));
+        opening->SetAnchorPosType(AecRectOpening::kCenter);
+        opening->SetTitleText(L"RO-1 1200x800");
+        opening->SetIsShowDim(true);
+        return opening;
+    }
+    static void Edit(AecRectOpening* opening)
+    {
+        opening->SetWidth(1500);
+        opening->SetTitleText(L"RO-1 1500x800");
+    }
+};
+
+template <>
+struct ConformanceCase<AecPolyOpening> {
+    using HostBase = AcDbPolyline;
+    // A pentagon whose top is an arc.
+    static AecPolyOpening* MakeSample()
+    {
+        auto* opening = new AecPolyOpening();
+        opening->addVertexAt(0, AcGePoint2d(0, 0));
+        opening->addVertexAt(1, AcGePoint2d(3000, 0));
+        opening->addVertexAt(2, AcGePoint2d(3000, 1500), 0.3);
+        opening->addVertexAt(3, AcGePoint2d(1000, 2200));
+        opening->addVertexAt(4, AcGePoint2d(0, 1500));
+        opening->setClosed(Adesk::kTrue);
+        PolyOpeningData data = opening->GetData();
+        data.titleText = L"异形窗 W-3";
+        data.colorIndex = 5;
+        data.ResizeSegmentLabels(2);
+        data.segmentLabels[1].SetLabel(L"右边");
+        opening->SetData(data);
+        return opening;
+    }
+    static void Edit(AecPolyOpening* opening)
+    {
+        opening->setPointAt(3, AcGePoint2d(1200, 2400));
+        opening->SetDisplayAidTitle(L"异形窗 W-4");
+    }
+};
+
+template <>
+struct ConformanceCase<AecLayoutBoundary> {
+    using HostBase = AcDbPolyline;
+    static AecLayoutBoundary* MakeSample()
+    {
+        auto* boundary = new AecLayoutBoundary();
+        boundary->addVertexAt(0, AcGePoint2d(-500, -500));
+        boundary->addVertexAt(1, AcGePoint2d(9500, -500));
+        boundary->addVertexAt(2, AcGePoint2d(9500, 6500), -0.2);
+        boundary->addVertexAt(3, AcGePoint2d(-500, 6500));
+        boundary->setClosed(Adesk::kTrue);
+        LayoutBoundaryData data = boundary->GetImp()->GetData();
+        data.kind = 2;
+        data.titleText = L"布置轮廓 A";
+        data.titleOffset = AcGePoint3d(-1000, -2500, 0);
+        data.titleHeight = 300;
+        boundary->GetImp()->SetData(data);
+        return boundary;
+    }
+    static void Edit(AecLayoutBoundary* boundary)
+    {
+        boundary->setPointAt(1, AcGePoint2d(10500, -500));
+        LayoutBoundaryData data = boundary->GetImp()->GetData();
+        data.titleHeight = 350;
+        boundary->GetImp()->SetData(data);
+    }
+};
+
+using ConformanceTypes = ::testing::Types<AecCircleOpening, AecDivisionLine, AecOverlapLine, AecStructuralLine,
+                                          AecRectOpening, AecPolyOpening, AecLayoutBoundary>;

@@ -1,6 +1,7 @@
-// The built-in example: a roof bay with three roof-light openings, the division lines
-// between its panel zones (straight and arced), the side laps between its sheets and the
-// purlins that carry them.
+// The built-in example: a roof bay inside its layout boundary, with the division lines
+// between its panel zones (straight and arced), the side laps between its sheets, the
+// purlins that carry them, three round roof-light openings, a rectangular hatch opening
+// with its dimensions and an L-shaped opening.
 #include "DemoDrawing.h"
 
 #include "dbmain.h"
@@ -10,6 +11,9 @@
 #include "lines/AecOverlapLine.h"
 #include "lines/AecStructuralLine.h"
 #include "openings/AecCircleOpening.h"
+#include "openings/AecLayoutBoundary.h"
+#include "openings/AecPolyOpening.h"
+#include "openings/AecRectOpening.h"
 
 namespace quarvo {
 namespace {
@@ -114,6 +118,91 @@ void AddPurlin(AcDbDatabase* db, const AcGePoint3d& start, const AcGePoint3d& en
         delete line;
 }
 
+// The drawing's "_Standard" dimension style, in millimetres at 1:100, which the openings
+// take by default.
+AcDbObjectId AddDimensionStyle(AcDbDatabase* db)
+{
+    AcDbDimStyleTable* styles = nullptr;
+    if (db->getDimStyleTable(styles, AcDb::kForWrite) != Acad::eOk)
+        return AcDbObjectId::kNull;
+    AcDbObjectId id;
+    if (styles->getAt(L"_Standard", id) != Acad::eOk) {
+        auto* style = new AcDbDimStyleTableRecord();
+        style->setName(L"_Standard");
+        style->setDimscale(100);
+        style->setDimtxt(2.5);
+        style->setDimasz(2.5);
+        style->setDimexo(0.625);
+        style->setDimexe(1.25);
+        style->setDimgap(0.625);
+        style->setDimdec(0);
+        if (styles->add(id, style) == Acad::eOk)
+            style->close();
+        else
+            delete style;
+    }
+    styles->close();
+    return id;
+}
+
+template <typename Entity>
+void Append(AcDbDatabase* db, Entity* entity)
+{
+    if (AddToCurrentSpace(entity, db) == Acad::eOk)
+        entity->close();
+    else
+        delete entity;
+}
+
+// The bay's outline: the eave side follows the arced division line.
+void AddBoundary(AcDbDatabase* db)
+{
+    auto* boundary = new AecLayoutBoundary();
+    boundary->setDatabaseDefaults(db);
+    boundary->setLayer(L"QX-布置轮廓");
+    boundary->addVertexAt(0, AcGePoint2d(0, 0));
+    boundary->addVertexAt(1, AcGePoint2d(24000, 0));
+    boundary->addVertexAt(2, AcGePoint2d(24000, 12000), 0.12);
+    boundary->addVertexAt(3, AcGePoint2d(0, 12000));
+    boundary->setClosed(Adesk::kTrue);
+    LayoutBoundaryData data = boundary->GetImp()->GetData();
+    data.titleText = L"布置轮廓 屋面A";
+    data.titleHeight = 400;
+    // From the centre of the extents down to the middle zone's foot.
+    data.titleOffset = AcGePoint3d(-1400, -6120, 0);
+    boundary->GetImp()->SetData(data);
+    Append(db, boundary);
+}
+
+void AddRectOpening(AcDbDatabase* db, const AcDbObjectId& dimStyle)
+{
+    auto* opening = new AecRectOpening();
+    opening->setDatabaseDefaults(db);
+    opening->setLayer(L"QX-洞口");
+    opening->SetAnchorPosType(AecRectOpening::kCenter);
+    opening->Set(AcGePoint3d(20000, 3500, 0), 2400, 1500);
+    opening->SetTextStyleId(db->textstyle());
+    if (!dimStyle.isNull())
+        opening->SetDimStyleId(dimStyle);
+    opening->SetTitleText(L"检修口 2400×1500");
+    opening->SetTitleHeight(250);
+    opening->SetIsShowDim(true);
+    Append(db, opening);
+}
+
+void AddLShapedOpening(AcDbDatabase* db)
+{
+    auto* opening = new AecPolyOpening();
+    opening->setDatabaseDefaults(db);
+    opening->setLayer(L"QX-洞口");
+    const AcGePoint2d corners[] = {{1200, 1200}, {6000, 1200}, {6000, 3000}, {3600, 3000}, {3600, 4800}, {1200, 4800}};
+    for (unsigned int i = 0; i < 6; ++i)
+        opening->addVertexAt(i, corners[i]);
+    opening->setClosed(Adesk::kTrue);
+    opening->SetDisplayAidTitle(L"异形窗 L1");
+    Append(db, opening);
+}
+
 }  // namespace
 
 void BuildDemoDrawing(AcDbDatabase* db)
@@ -125,6 +214,10 @@ void BuildDemoDrawing(AcDbDatabase* db)
     AddLayer(db, L"QX-搭接线", 6);
     AddLayer(db, L"QX-结构线", 5);
     AddLayer(db, L"QX-收边线", 30);
+    AddLayer(db, L"QX-布置轮廓", 6);
+    const AcDbObjectId dimStyle = AddDimensionStyle(db);
+
+    AddBoundary(db);
 
     // Three zones of a 24 m bay, divided by two straight lines and an arced eave line.
     AddDivisionLine(db, AcGePoint3d(8000, 0, 0), AcGePoint3d(8000, 12000, 0), 0.0, L"J-01");
@@ -141,6 +234,8 @@ void BuildDemoDrawing(AcDbDatabase* db)
     AddOpening(db, AcGePoint3d(4000, 6000, 0), 600, L"采光孔 D1200");
     AddOpening(db, AcGePoint3d(12000, 4000, 0), 450, L"排风孔 D900");
     AddOpening(db, AcGePoint3d(20000, 7500, 0), 300, L"管道孔 D600");
+    AddRectOpening(db, dimStyle);
+    AddLShapedOpening(db);
 }
 
 }  // namespace quarvo
