@@ -2,18 +2,42 @@
 // refused description names its JSON path and writes nothing.
 #include <gtest/gtest.h>
 
+#include <array>
 #include <random>
 
 #include "LayoutBuilder.h"
 #include "ModuleTestSupport.h"
 #include "ToolRun.h"
 #include "headless/CommandLine.h"
+#include "dbsymtb.h"
+#include "openings/AecLayoutBoundary.h"
 
 namespace {
 
 using qxtest::RunQuarvo;
 
 const bool kModuleLoaded = qxtest::RegisterModuleEnvironment();
+
+// The first entity of db's model space.
+AcDbObjectId FirstEntity(AcDbDatabase* db)
+{
+    AcDbObjectId id;
+    AcDbBlockTable* table = nullptr;
+    if (db->getBlockTable(table, AcDb::kForRead) != Acad::eOk)
+        return id;
+    AcDbBlockTableRecord* space = nullptr;
+    const Acad::ErrorStatus opened = table->getAt(ACDB_MODEL_SPACE, space, AcDb::kForRead);
+    table->close();
+    if (opened != Acad::eOk)
+        return id;
+    AcDbBlockTableRecordIterator* it = nullptr;
+    space->newIterator(it);
+    if (!it->done())
+        it->getEntityId(id);
+    delete it;
+    space->close();
+    return id;
+}
 
 bool Contains(const std::string& text, const std::string& part)
 {
@@ -46,6 +70,97 @@ TEST(NewCommandTest, EachKindListsWhatItsDescriptionSaid)
         << openings.out;
     EXPECT_TRUE(Contains(openings.out, "\n标题: 显示，\"采光孔\"\n")) << openings.out;
     EXPECT_TRUE(Contains(openings.out, "Layer: \"QX-洞口\"")) << openings.out;
+}
+
+// One of each line and opening kind besides the first two, with every member away from
+// its default, listed back as the entities list themselves.
+TEST(NewCommandTest, LinesAndOpeningsListWhatTheirDescriptionsSaid)
+{
+    const std::string layout = R"({
+  "format": "quarvo-layout", "version": 1,
+  "layers": [{"name": "QX-搭接线"}, {"name": "QX-洞口"}],
+  "overlapLines": [{"layer": "QX-搭接线", "start": {"x": 0, "y": 0}, "end": {"x": 1000, "y": 0},
+                    "overlapLeft": 50, "overlapRight": 70, "direction": "rightOverLeft",
+                    "drawOptions": ["centerLine", "direction"], "shouBianInfo": {"名称": "搭接"}}],
+  "structuralLines": [{"start": {"x": 0, "y": 500}, "end": {"x": 0, "y": 2500}, "memberType": "beam",
+                       "memberWidthLeft": 100, "memberWidthRight": 80, "indentLeft": 60, "indentRight": 30}],
+  "rectOpenings": [{"layer": "QX-洞口", "anchor": {"x": 100, "y": 200}, "anchorPosition": "center",
+                    "width": 1200, "height": 800, "showDimensions": true, "title": {"text": "风机洞口"}}],
+  "polyOpenings": [{"layer": "QX-洞口", "vertices": [{"x": 0, "y": 0}, {"x": 1000, "y": 0}, {"x": 500, "y": 800}],
+                    "closed": false, "title": {"text": "异形窗 T1", "visible": false}}]
+})";
+    qxtest::TempFolder folder;
+    qxtest::WriteFile(folder / "layout.json", layout);
+    const auto built = RunQuarvo({"new", folder / "layout.json", "-o", folder / "layout.qxd"});
+    ASSERT_EQ(built.exitCode, 0) << built.err;
+    EXPECT_EQ(built.out,
+              "Built 4 entities (overlapLines 1, polyOpenings 1, rectOpenings 1, structuralLines 1) into " +
+                  (folder / "layout.qxd") + "\n");
+
+    const struct {
+        const char* type;
+        std::vector<std::string> lines;
+    } kinds[] = {
+        // A 1000 long lap of 50 + 70: a band 120 wide of area 120000.
+        {"QX_OVERLAP_LINE",
+         {"  End Point: (1000.000, 0.000, 0.000)", "  Left Overlap: 50.000", "  Right Overlap: 70.000",
+          "  Total Width: 120.000", "  Overlap Area: 120000.000", "  Direction: RightOverLeft (右压左)",
+          "  收边信息: {\"名称\":\"搭接\"}"}},
+        // Penetration is width less indent: 100 - 60 and 80 - 30.
+        {"QX_STRUCTURAL_LINE",
+         {"  Start Point: (0.000, 500.000, 0.000)", "  Member Type: Beam", "  Member Width Left:  100.000",
+          "  Member Width Right: 80.000", "  Penetration Left:  40.000  (MemberWidth - Indent)",
+          "  Penetration Right: 50.000  (MemberWidth - Indent)"}},
+        {"QX_RECT_OPENING", {"锚点: 中心，位置: (100.00, 200.00, 0.00)", "标题: 显示，\"风机洞口\"", "尺寸标注: 开启"}},
+        // Open: three vertices make two segments.
+        {"QX_POLY_OPENING", {"异形洞口: 3 个顶点，2 个分段，未闭合", "标题: 隐藏，\"异形窗 T1\""}},
+    };
+    for (const auto& kind : kinds) {
+        const auto listed = RunQuarvo({"list", folder / "layout.qxd", "--type", kind.type});
+        ASSERT_EQ(listed.exitCode, 0) << listed.err;
+        for (const std::string& line : kind.lines)
+            EXPECT_TRUE(Contains(listed.out, "\n" + line + "\n")) << kind.type << ": " << line << "\n" << listed.out;
+    }
+}
+
+// A clockwise outline is turned round: the same vertices the other way, each arc kept by
+// negating its bulge; the title is the description's.
+TEST(NewCommandTest, ABoundaryIsLaidCounterClockwiseWithItsTitle)
+{
+    const std::string layout = R"({"format": "quarvo-layout", "version": 1, "boundary": {
+        "vertices": [{"x": 0, "y": 0}, {"x": 0, "y": 100, "bulge": 0.25}, {"x": 200, "y": 100}, {"x": 200, "y": 0}],
+        "title": {"text": "A 区", "height": 30, "offset": {"x": 5, "y": -40}}, "kind": 2, "referenceSize": 50}})";
+    qxtest::WorkingDatabase working;
+    rapidjson::Document document;
+    quarvo::LayoutBuilder::Parse(layout, document);
+    std::map<std::string, int> built;
+    quarvo::LayoutBuilder::Build(document, working.db(), built);
+    ASSERT_EQ(built["boundary"], 1);
+
+    AecLayoutBoundary* boundary = nullptr;
+    ASSERT_EQ(acdbOpenObject(boundary, FirstEntity(working.db()), AcDb::kForRead), Acad::eOk);
+    const bool closed = boundary->isClosed();
+    std::vector<std::array<double, 3>> vertices;
+    for (unsigned int i = 0; i < boundary->numVerts(); ++i) {
+        AcGePoint2d point;
+        double bulge = 0.0;
+        boundary->getPointAt(i, point);
+        boundary->getBulgeAt(i, bulge);
+        vertices.push_back({point.x, point.y, bulge});
+    }
+    const LayoutBoundaryData data = boundary->GetImp()->GetData();
+    boundary->close();
+
+    EXPECT_TRUE(closed);
+    // Given (0,0) (0,100)~ (200,100) (200,0); reversed from the last: the arc from (0,100)
+    // to (200,100) now runs from (200,100) to (0,100).
+    const std::vector<std::array<double, 3>> expected = {{200, 0, 0}, {200, 100, -0.25}, {0, 100, 0}, {0, 0, 0}};
+    EXPECT_EQ(vertices, expected);
+    EXPECT_EQ(std::wstring(data.titleText.kwszPtr()), L"A 区");
+    EXPECT_EQ(data.titleHeight, 30.0);
+    EXPECT_EQ(data.titleOffset, AcGePoint3d(5, -40, 0));
+    EXPECT_EQ(data.kind, 2);
+    EXPECT_EQ(data.referenceSize, 50.0);
 }
 
 struct RefusedCase {
@@ -121,6 +236,20 @@ TEST(NewCommandTest, RefusesEveryBadDescriptionByItsPathAndWritesNothing)
         {Layout(Opening(R"("title": {"visible": "yes"})")), "circleOpenings[0].title.visible: must be true or false"},
         {Layout(R"("circleOpenings": [{"center": {"x": 0, "y": 0}, "radius": 5}, 7])"),
          "circleOpenings[1]: must be an object"},
+        {Layout(R"("overlapLines": [{"start": {"x": 0, "y": 0}, "end": {"x": 0, "y": 4}}])"),
+         "overlapLines[0]: an overlap line is 5 to 512000 long, this one is 4"},
+        {Layout(R"("overlapLines": [{)" + std::string(kLine) + R"(, "direction": "up"}])"),
+         "overlapLines[0].direction: must be one of \"leftOverRight\", \"rightOverLeft\""},
+        {Layout(R"("structuralLines": [{)" + std::string(kLine) + R"(, "indentRight": -5}])"),
+         "structuralLines[0].indentRight: must not be negative"},
+        {Layout(R"("structuralLines": [{)" + std::string(kLine) + R"(, "memberType": "truss"}])"),
+         "structuralLines[0].memberType: must be one of \"beam\", \"column\""},
+        {Layout(R"("boundary": {"vertices": [{"x": 0, "y": 0}, {"x": 1, "y": 0}]})"),
+         "boundary.vertices: needs at least 3 vertices"},
+        {Layout(R"("rectOpenings": [{"anchor": {"x": 0, "y": 0}, "width": 10}])"), "rectOpenings[0]: needs \"height\""},
+        {Layout(R"("polyOpenings": [{"vertices": [{"x": 0, "y": 0}, {"x": 9, "y": 0}, {"x": 0, "y": 9}],
+                     "segmentLabels": {"texts": ["a", "b", "c", "d"]}}])"),
+         "polyOpenings[0].segmentLabels.texts: one text per segment: the outline has 3"},
         {Layout(R"("name": )" + std::string(70, '[') + std::string(70, ']')),
          "the layout: nested deeper than 64 levels"},
     };
@@ -141,11 +270,10 @@ TEST(NewCommandTest, RefusesEveryBadDescriptionByItsPathAndWritesNothing)
 TEST(NewCommandTest, RefusesKindsTheModuleDoesNotHaveYet)
 {
     const std::vector<std::pair<std::string, std::string>> kinds = {
-        {R"("boundary": {"vertices": []})", "boundary"},      {R"("panels": [{}])", "panels[0]"},
-        {R"("litePanels": [{}])", "litePanels[0]"},           {R"("overlapLines": [{}])", "overlapLines[0]"},
-        {R"("structuralLines": [{}])", "structuralLines[0]"}, {R"("flashingLines": [{}])", "flashingLines[0]"},
-        {R"("steelMembers": [{}])", "steelMembers[0]"},       {R"("rectOpenings": [{}])", "rectOpenings[0]"},
-        {R"("polyOpenings": [{}])", "polyOpenings[0]"},
+        {R"("panels": [{}])", "panels[0]"},
+        {R"("litePanels": [{}])", "litePanels[0]"},
+        {R"("flashingLines": [{}])", "flashingLines[0]"},
+        {R"("steelMembers": [{}])", "steelMembers[0]"},
     };
     qxtest::TempFolder folder;
     for (const auto& [members, path] : kinds) {

@@ -5,6 +5,11 @@
 
 #include "CircleOpeningBuilder.h"
 #include "DivisionLineBuilder.h"
+#include "LayoutBoundaryBuilder.h"
+#include "OverlapLineBuilder.h"
+#include "PolyOpeningBuilder.h"
+#include "RectOpeningBuilder.h"
+#include "StructuralLineBuilder.h"
 #include "Progress.h"
 
 namespace quarvo {
@@ -14,17 +19,17 @@ const std::vector<LayoutKind>& LayoutBuilder::Kinds()
     // Outline first, then what lies on it, then what cuts through it; a builder joins here
     // as its entity joins the module.
     static const std::vector<LayoutKind> kinds = {
-        {"boundary", nullptr},
+        {"boundary", &BuildLayoutBoundary},
         {"panels", nullptr},
         {"litePanels", nullptr},
         {"divisionLines", &BuildDivisionLine},
-        {"overlapLines", nullptr},
-        {"structuralLines", nullptr},
+        {"overlapLines", &BuildOverlapLine},
+        {"structuralLines", &BuildStructuralLine},
         {"flashingLines", nullptr},
         {"steelMembers", nullptr},
         {"circleOpenings", &BuildCircleOpening},
-        {"rectOpenings", nullptr},
-        {"polyOpenings", nullptr},
+        {"rectOpenings", &BuildRectOpening},
+        {"polyOpenings", &BuildPolyOpening},
     };
     return kinds;
 }
