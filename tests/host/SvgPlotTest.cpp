@@ -92,6 +92,54 @@ TEST_F(SvgPlotTest, ColoursComeFromThePaletteAndTheLayer)
     EXPECT_TRUE(contains(svg, "<g id=\"layer-屋面_1\" data-layer=\"屋面 1\">")) << svg;
 }
 
+// A linetype with skips strokes dashed: its own pattern, the layer's through BYLAYER, and
+// nothing for CONTINUOUS; scaled by the entity's linetype scale.
+TEST_F(SvgPlotTest, LinetypesWithSkipsAreStrokedDashed)
+{
+    AcDbLinetypeTable* table = nullptr;
+    ASSERT_EQ(db.getLinetypeTable(table, AcDb::kForWrite), Acad::eOk);
+    auto* dashDot = new AcDbLinetypeTableRecord();
+    dashDot->setName(L"QX-DASH");
+    dashDot->setNumDashes(3);
+    dashDot->setDashLengthAt(0, 6.0);
+    dashDot->setDashLengthAt(1, -2.0);
+    dashDot->setDashLengthAt(2, -1.0);
+    AcDbObjectId dashId;
+    ASSERT_EQ(table->add(dashId, dashDot), Acad::eOk);
+    dashDot->close();
+    AcDbObjectId byLayer;
+    AcDbObjectId continuous;
+    table->getAt(L"ByLayer", byLayer);
+    table->getAt(L"Continuous", continuous);
+    table->close();
+
+    const AcDbObjectId dashedLayer = clonetest::addLayer(&db, L"虚线层", 7);
+    AcDbLayerTableRecord* layer = nullptr;
+    ASSERT_EQ(acdbOpenObject(layer, dashedLayer, AcDb::kForWrite), Acad::eOk);
+    layer->setLinetypeObjectId(dashId);
+    layer->close();
+
+    auto* own = new AcDbLine(AcGePoint3d(0, 0, 0), AcGePoint3d(100, 0, 0));
+    own->setLinetype(dashId);
+    own->setLinetypeScale(2.0);
+    clonetest::append(&db, own);
+    auto* fromLayer = new AcDbLine(AcGePoint3d(0, 10, 0), AcGePoint3d(100, 10, 0));
+    fromLayer->setLayer(dashedLayer);
+    fromLayer->setLinetype(byLayer);
+    clonetest::append(&db, fromLayer);
+    auto* solid = new AcDbLine(AcGePoint3d(0, 20, 0), AcGePoint3d(100, 20, 0));
+    solid->setLayer(dashedLayer);
+    solid->setLinetype(continuous);
+    clonetest::append(&db, solid);
+
+    const std::string svg = headless::SvgPlot::render(&db);
+    // The two skips run together: 6 drawn, 3 skipped; twice that at scale 2.
+    EXPECT_TRUE(contains(svg, "<polyline points=\"0,0 100,0\" stroke=\"#000000\" stroke-dasharray=\"12,6\"/>")) << svg;
+    EXPECT_TRUE(contains(svg, "<polyline points=\"0,-10 100,-10\" stroke=\"#000000\" stroke-dasharray=\"6,3\"/>"))
+        << svg;
+    EXPECT_TRUE(contains(svg, "<polyline points=\"0,-20 100,-20\" stroke=\"#000000\"/>")) << svg;
+}
+
 TEST_F(SvgPlotTest, TheViewBoxIsTheExtentsWithAMargin)
 {
     clonetest::append(&db, new AcDbLine(AcGePoint3d(10, 20, 0), AcGePoint3d(110, 70, 0)));

@@ -1,6 +1,7 @@
 // SvgCanvas: one SVG element per recorded primitive.
 #include "SvgCanvas.h"
 
+#include <algorithm>
 #include <climits>
 #include <cmath>
 #include <sstream>
@@ -66,14 +67,46 @@ std::string SvgCanvas::point(const AcGePoint3d& p) const
     return number(p.x) + "," + number(-p.y);
 }
 
-std::string SvgCanvas::strokeAttributes(const std::string& colour, double width, bool filled) const
+std::string SvgCanvas::strokeAttributes(const std::string& colour, double width, bool filled,
+                                        const std::string& dashArray) const
 {
     std::string attributes = " stroke=\"" + colour + "\"";
     if (width != 1.0)
         attributes += " stroke-width=\"" + number(width * m_unitsPerPixel) + "\"";
     if (filled)
         attributes += " fill=\"" + colour + "\"";
+    else if (!dashArray.empty())
+        attributes += " stroke-dasharray=\"" + dashArray + "\"";
     return attributes;
+}
+
+std::string SvgCanvas::dashArray(const std::vector<double>& dashes) const
+{
+    // Runs of the same kind merge; a dot is drawn one pixel long so that it shows.
+    std::vector<double> runs;
+    bool drawing = true;
+    bool skips = false;
+    for (double dash : dashes) {
+        if (!std::isfinite(dash))
+            return std::string();
+        const bool draws = dash >= 0.0;
+        const double length = draws ? std::max(dash, m_unitsPerPixel) : -dash;
+        skips = skips || !draws;
+        if (runs.empty() && !draws)
+            runs.push_back(0.0);  // the array starts with a drawn length
+        else if (!runs.empty() && draws == drawing) {
+            runs.back() += length;
+            continue;
+        }
+        runs.push_back(length);
+        drawing = draws;
+    }
+    if (!skips)
+        return std::string();
+    std::string out;
+    for (std::size_t i = 0; i < runs.size(); ++i)
+        out += (i == 0 ? "" : ",") + number(runs[i]);
+    return out;
 }
 
 std::string SvgCanvas::polyline(const std::vector<AcGePoint3d>& points, bool closed,
@@ -197,20 +230,20 @@ std::string SvgCanvas::endlessLine(const RecordedPrimitive& p, bool bothWays, co
     return polyline({bothWays ? p.points[0] - step : p.points[0], p.points[0] + step}, false, attributes);
 }
 
-std::string SvgCanvas::element(const RecordedPrimitive& p, const std::string& colour, double strokeWidth) const
+std::string SvgCanvas::element(const RecordedPrimitive& p, const std::string& colour, double strokeWidth,
+                               const std::vector<double>& dashes) const
 {
     const bool filled = p.traits.fillType == kAcGiFillAlways;
-    const std::string stroke = strokeAttributes(colour, strokeWidth, false);
+    const std::string dash = dashArray(dashes);
+    const std::string stroke = strokeAttributes(colour, strokeWidth, false, dash);
     switch (p.kind) {
-    case PrimitiveKind::kCircle:
-        return circle(p, strokeAttributes(colour, strokeWidth, filled));
+    case PrimitiveKind::kCircle: return circle(p, strokeAttributes(colour, strokeWidth, filled, dash));
     case PrimitiveKind::kArc:
-        return arc(p, strokeAttributes(colour, strokeWidth, filled && !p.integers.empty() && p.integers[0] != 0));
+        return arc(p, strokeAttributes(colour, strokeWidth, filled && !p.integers.empty() && p.integers[0] != 0, dash));
     case PrimitiveKind::kPolyline:
     case PrimitiveKind::kWorldLine:
         return polyline(p.points, false, stroke);
-    case PrimitiveKind::kPolygon:
-        return polyline(p.points, true, strokeAttributes(colour, strokeWidth, filled));
+    case PrimitiveKind::kPolygon: return polyline(p.points, true, strokeAttributes(colour, strokeWidth, filled, dash));
     case PrimitiveKind::kPline:
         return bulgePath(p, stroke);
     case PrimitiveKind::kMesh: {
@@ -244,7 +277,7 @@ std::string SvgCanvas::element(const RecordedPrimitive& p, const std::string& co
                 if (index >= 0 && static_cast<std::size_t>(index) < p.points.size())
                     face.push_back(p.points[static_cast<std::size_t>(index)]);
             }
-            out += polyline(face, true, strokeAttributes(colour, strokeWidth, filled));
+            out += polyline(face, true, strokeAttributes(colour, strokeWidth, filled, dash));
         }
         return out;
     }

@@ -16,8 +16,15 @@ public:
     SvgCanvas(const AcDbExtents& extents, double unitsPerPixel) : m_extents(extents), m_unitsPerPixel(unitsPerPixel) {}
 
     // The element for the primitive, or empty for primitives a picture does not show
-    // (declared extents, clips). colour: "#rrggbb"; strokeWidth in pixels.
-    std::string element(const headless::RecordedPrimitive& p, const std::string& colour, double strokeWidth) const;
+    // (declared extents, clips). colour: "#rrggbb"; strokeWidth in pixels; dashes: the
+    // linetype's pattern in drawing units (positive draws, negative skips, zero is a dot),
+    // empty for a continuous line.
+    std::string element(const headless::RecordedPrimitive& p, const std::string& colour, double strokeWidth,
+                        const std::vector<double>& dashes = {}) const;
+
+    // A linetype's pattern as an SVG dash array (alternate drawn and skipped lengths, the
+    // first drawn), or empty when it has nothing to skip.
+    std::string dashArray(const std::vector<double>& dashes) const;
 
     // Text with the characters XML reserves escaped, as UTF-8.
     static std::string escape(const std::wstring& text);
@@ -25,7 +32,8 @@ public:
 
 private:
     std::string point(const AcGePoint3d& p) const;
-    std::string strokeAttributes(const std::string& colour, double width, bool filled) const;
+    std::string strokeAttributes(const std::string& colour, double width, bool filled,
+                                 const std::string& dashArray) const;
     std::string polyline(const std::vector<AcGePoint3d>& points, bool closed, const std::string& attributes) const;
     std::string circle(const headless::RecordedPrimitive& p, const std::string& attributes) const;
     std::string arc(const headless::RecordedPrimitive& p, const std::string& attributes) const;

@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <cstdio>
+#include <cwctype>
 #include <map>
 #include <sstream>
 
@@ -32,6 +33,7 @@ struct LayerLook {
     std::wstring name;
     AcCmEntityColor color;
     AcDb::LineWeight lineWeight = AcDb::kLnWtByLwDefault;
+    AcDbObjectId linetype;
 };
 
 struct Drawn {
@@ -131,6 +133,7 @@ public:
             look.name = name.kwszPtr();
             look.color = layer->color().entityColor();
             look.lineWeight = layer->lineWeight();
+            look.linetype = layer->linetypeObjectId();
             layer->close();
         } else {
             look.color = AcCmEntityColor(AcCm::kForeground);
@@ -142,6 +145,21 @@ public:
         look.id = groupId;
         m_order.push_back(id);
         return &m_layers.emplace(id, look).first->second;
+    }
+
+    // The dash pattern a primitive is stroked with, in drawing units: its linetype's, the
+    // layer's for BYLAYER, none for BYBLOCK, CONTINUOUS or a linetype that cannot be read;
+    // scaled by the primitive's linetype scale and the drawing's.
+    std::vector<double> dashesOf(const RecordedTraits& traits, const LayerLook* layer)
+    {
+        AcDbObjectId id = traits.linetypeId;
+        if (isNamed(id, L"BYLAYER"))
+            id = layer != nullptr ? layer->linetype : AcDbObjectId::kNull;
+        std::vector<double> dashes = patternOf(id);
+        const double scale = traits.linetypeScale * m_db->ltscale();
+        for (double& dash : dashes)
+            dash *= std::isfinite(scale) && scale > 0.0 ? scale : 1.0;
+        return dashes;
     }
 
     std::string document(const SvgPlotOptions& options)
@@ -177,8 +195,9 @@ public:
         std::map<AcDbObjectId, std::vector<std::string>> elements;
         for (const Drawn& d : m_drawn) {
             const LayerLook* layer = layerOf(d.layer);
-            const std::string element = canvas.element(d.primitive, colourOf(d.primitive.traits.trueColor, layer),
-                                                       strokeOf(d.primitive.traits.lineWeight, layer));
+            const std::string element =
+                canvas.element(d.primitive, colourOf(d.primitive.traits.trueColor, layer),
+                               strokeOf(d.primitive.traits.lineWeight, layer), dashesOf(d.primitive.traits, layer));
             if (!element.empty())
                 elements[d.layer].push_back(element);
         }
@@ -194,8 +213,43 @@ public:
     }
 
 private:
+    struct LinetypeLook {
+        std::wstring name;  // upper case
+        std::vector<double> dashes;
+    };
+
+    const LinetypeLook& linetypeOf(const AcDbObjectId& id)
+    {
+        const auto found = m_linetypes.find(id);
+        if (found != m_linetypes.end())
+            return found->second;
+        LinetypeLook look;
+        AcDbLinetypeTableRecord* linetype = nullptr;
+        if (!id.isNull() && acdbOpenObject(linetype, id, AcDb::kForRead) == Acad::eOk) {
+            AcString name;
+            linetype->getName(name);
+            for (const wchar_t* c = name.kwszPtr(); *c != 0; ++c)
+                look.name += static_cast<wchar_t>(std::towupper(*c));
+            for (int i = 0; i < linetype->numDashes(); ++i)
+                look.dashes.push_back(linetype->dashLengthAt(i));
+            linetype->close();
+        }
+        return m_linetypes.emplace(id, look).first->second;
+    }
+
+    bool isNamed(const AcDbObjectId& id, const wchar_t* upperName) { return linetypeOf(id).name == upperName; }
+
+    std::vector<double> patternOf(const AcDbObjectId& id)
+    {
+        const LinetypeLook& look = linetypeOf(id);
+        if (look.name == L"BYBLOCK" || look.name == L"CONTINUOUS")
+            return {};
+        return look.dashes;
+    }
+
     AcDbDatabase* m_db;
     std::vector<Drawn> m_drawn;
+    std::map<AcDbObjectId, LinetypeLook> m_linetypes;
     std::map<AcDbObjectId, LayerLook> m_layers;
     std::vector<AcDbObjectId> m_order;
     std::map<std::string, bool> m_usedIds;
