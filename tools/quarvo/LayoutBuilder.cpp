@@ -106,6 +106,7 @@ void LayoutBuilder::Build(const rapidjson::Document& document, AcDbDatabase* db,
         }
         built[kind->key] = static_cast<int>(items.size());
     }
+    context.RunDeferred();
 }
 
 }  // namespace quarvo

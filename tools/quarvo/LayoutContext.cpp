@@ -66,7 +66,28 @@ std::wstring LayoutContext::LayerReference(JsonObjectReader& item, const char* k
     return name;
 }
 
-void LayoutContext::Add(AcDbEntity* entity, JsonObjectReader& item) const
+AcDbObjectId LayoutContext::LayerId(const std::wstring& name) const
+{
+    AcDbObjectId id;
+    AcDbLayerTable* table = nullptr;
+    if (name.empty() || m_db->getLayerTable(table, AcDb::kForRead) != Acad::eOk)
+        return id;
+    table->getAt(name.c_str(), id);
+    table->close();
+    return id;
+}
+
+void LayoutContext::RunDeferred()
+{
+    // A step may defer more work; it runs after the steps already waiting.
+    for (std::size_t i = 0; i < m_deferred.size(); ++i) {
+        const std::function<void()> step = m_deferred[i];
+        step();
+    }
+    m_deferred.clear();
+}
+
+AcDbObjectId LayoutContext::Add(AcDbEntity* entity, JsonObjectReader& item) const
 {
     std::unique_ptr<AcDbEntity> owned(entity);
     const std::wstring layer = LayerName(item);
@@ -76,7 +97,9 @@ void LayoutContext::Add(AcDbEntity* entity, JsonObjectReader& item) const
     owned->setColorIndex(static_cast<Adesk::UInt16>(color));
     if (AddToCurrentSpace(owned.get(), m_db) != Acad::eOk)
         throw LayoutError(item.path(), "the entity cannot be added to the drawing");
+    const AcDbObjectId id = owned->objectId();
     owned.release()->close();
+    return id;
 }
 
 }  // namespace quarvo

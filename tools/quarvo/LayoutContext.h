@@ -3,9 +3,14 @@
 // ("layer", "color").
 #pragma once
 
+#include <functional>
+#include <map>
 #include <string>
+#include <vector>
 
 #include "JsonObjectReader.h"
+
+#include "dbid.h"
 
 class AcDbDatabase;
 class AcDbEntity;
@@ -26,14 +31,29 @@ public:
     // empty when absent, else a declared layer.
     std::wstring LayerReference(JsonObjectReader& item, const char* key) const;
 
+    // The id of a layer the drawing has (null for an empty name).
+    AcDbObjectId LayerId(const std::wstring& name) const;
+
     // Gives entity the drawing's defaults and the item's "layer" and "color", appends it
     // to model space and closes it; the entity is deleted when it cannot be appended.
-    void Add(AcDbEntity* entity, JsonObjectReader& item) const;
+    // Answers the entity's id.
+    AcDbObjectId Add(AcDbEntity* entity, JsonObjectReader& item) const;
+
+    // Work that needs every entity built first (a group names its members by their
+    // position, and their handles exist only once they are in the drawing): run in order
+    // by RunDeferred, each throwing LayoutError for what it refuses.
+    void Defer(std::function<void()> step) { m_deferred.push_back(std::move(step)); }
+    void RunDeferred();
+
+    // The ids of a kind's entities in the order of their description ("panels").
+    std::vector<AcDbObjectId>& Built(const std::string& kind) { return m_built[kind]; }
 
 private:
     bool HasLayer(const std::wstring& name) const;
 
     AcDbDatabase* m_db;
+    std::vector<std::function<void()>> m_deferred;
+    std::map<std::string, std::vector<AcDbObjectId>> m_built;
 };
 
 }  // namespace quarvo
