@@ -9,6 +9,8 @@
 #include "JsonObjectReader.h"
 #include "headless/TextCodec.h"
 #include "lines/AecDivisionLine.h"
+#include "lines/AecOverlapLine.h"
+#include "lines/AecStructuralLine.h"
 
 namespace quarvo {
 namespace {
@@ -22,10 +24,11 @@ void CheckBlock(const AcString& text, const char* name, std::vector<std::string>
         findings.push_back(std::string(name) + " is not valid JSON (" + problem + ")");
 }
 
-// The division line's three blocks are the layout application's JSON.
-void CheckDivisionLine(const AcDbEntity* entity, std::vector<std::string>& findings)
+// The three blocks of the straight layout lines are the layout application's JSON.
+template <class Line>
+void CheckLayoutLine(const AcDbEntity* entity, std::vector<std::string>& findings)
 {
-    const AecDivisionLine* line = AecDivisionLine::cast(entity);
+    const Line* line = Line::cast(entity);
     CheckBlock(line->GetNodeBasicJsonStr(), "节点基本信息", findings);
     CheckBlock(line->GetShouBianJsonStr(), "收边信息", findings);
     CheckBlock(line->GetAccessoryJsonStr(), "辅配件信息", findings);
@@ -38,7 +41,9 @@ struct Hook {
 
 // One row per entity kind with data of its own to check.
 const Hook kHooks[] = {
-    {&AecDivisionLine::desc, &CheckDivisionLine},
+    {&AecDivisionLine::desc, &CheckLayoutLine<AecDivisionLine>},
+    {&AecOverlapLine::desc, &CheckLayoutLine<AecOverlapLine>},
+    {&AecStructuralLine::desc, &CheckLayoutLine<AecStructuralLine>},
 };
 
 }  // namespace
