@@ -4,6 +4,8 @@
 #include "BuildStamp.h"
 #include "ClassRegistration.h"
 #include "acutads.h"
+#include "panel/AecPanel.h"
+#include "panel/LinkageChangeCollector.h"
 
 AcRx::AppRetCode AecDbxApp::On_kInitAppMsg(void* pkt)
 {
@@ -18,6 +20,9 @@ AcRx::AppRetCode AecDbxApp::On_kInitAppMsg(void* pkt)
 AcRx::AppRetCode AecDbxApp::On_kUnloadAppMsg(void* pkt)
 {
     Quarvo::UnregisterModuleClasses();
+    // The collector and the hidden panels belong to this load of the module.
+    DbxPanel::LinkageChangeCollector::DestroyInstance();
+    AecPanel::ClearTemporaryHiddenPanelIds();
     AcRxArxApp::On_kUnloadAppMsg(pkt);
     return AcRx::kRetOK;
 }

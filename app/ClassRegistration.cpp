@@ -12,6 +12,7 @@
 #include "openings/AecPolyOpening.h"
 #include "openings/AecRectOpening.h"
 #include "openings/OpeningGripData.h"
+#include "panel/AecPanel.h"
 #include "rxboiler.h"
 
 namespace Quarvo {
@@ -36,7 +37,8 @@ ClassEntry Entry(const ACHAR* name)
 const std::vector<ClassEntry>& RegistrationTable()
 {
     static const std::vector<ClassEntry> table = {
-        // Steps 1-2: AecPanel, AecPanelLite.
+        Entry<AecPanel>(L"AecPanel"),  // step 1
+        // Step 2: AecPanelLite.
         Entry<QxPolylineBasedCurve>(L"QxPolylineBasedCurve"),  // step 3
         Entry<AecDivisionLine>(L"AecDivisionLine"),            // step 4
         Entry<AecOverlapLine>(L"AecOverlapLine"),              // step 5
@@ -55,7 +57,8 @@ const std::vector<ClassEntry>& RegistrationTable()
 const std::vector<ClassEntry>& TearDownTable()
 {
     static const std::vector<ClassEntry> table = {
-        // AecPanel, AecPanelLite.
+        Entry<AecPanel>(L"AecPanel"),  // 1st
+        // AecPanelLite.
         Entry<AecRectOpening>(L"AecRectOpening"),                         // 3rd
         Entry<AecRectOpeningUnits::OpeningGripData>(L"OpeningGripData"),  // 4th
         Entry<AecDivisionLine>(L"AecDivisionLine"),                       // 5th

@@ -5,6 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+#include <utility>
+
 #include "lines/AecDivisionLine.h"
 #include "lines/AecOverlapLine.h"
 #include "lines/AecStructuralLine.h"
@@ -12,9 +15,53 @@
 #include "openings/AecLayoutBoundary.h"
 #include "openings/AecPolyOpening.h"
 #include "openings/AecRectOpening.h"
+#include "panel/AecPanel.h"
 
 template <typename T>
 struct ConformanceCase;
+
+template <>
+struct ConformanceCase<AecPanel> {
+    using HostBase = AcDbEntity;
+    // A 6000 by 750 sheet laid along X with a round hole, its end cut on an arc, labelled,
+    // hatched, and with every information block filled.
+    static AecPanel* MakeSample()
+    {
+        auto* panel = new AecPanel();
+        panel->SetAllPanelInfoFromJson(
+            L"{\"banLeiXing\":\"YX35-125-750\",\"thickness\":0.6,\"standardWidth\":750,"
+            L"\"lengthDirection\":[1,0],\"anchorModeLength\":1,\"anchorModeWidth\":1,\"uniqueNum\":\"P-1\"}",
+            L"{\"isNumbered\":true,\"finalDisplayNumber\":\"A-01\",\"sequence\":1}",
+            L"{\"patternType\":1,\"patternName\":\"ANSI31\",\"patScale\":40,\"patternAngle\":0,"
+            L"\"patFillColor\":8}",
+            L"{\"direction\":0,\"sequenceNumber\":1,\"relatedPanelHandles\":[]}", L"{\"shapeType\":0,\"position\":0}",
+            L"[{\"名称\":\"螺钉\",\"数量\":12}]");
+        AcArray<AcGePoint2d> outline;
+        AcArray<double> bulges;
+        for (const auto& [x, y, b] :
+             {std::tuple<double, double, double>{0, 0, 0}, {6000, 0, 0.2}, {6000, 750, 0}, {0, 750, 0}}) {
+            outline.append(AcGePoint2d(x, y));
+            bulges.append(b);
+        }
+        panel->SetOuterLoopFromPointsWithBulges(outline, bulges);
+        AcArray<AcGePoint2d> hole;
+        AcArray<double> round;
+        for (const auto& [x, y] : {std::pair<double, double>{3100, 375}, {3000, 475}, {2900, 375}, {3000, 275}}) {
+            hole.append(AcGePoint2d(x, y));
+            round.append(0.41421356237309503);
+        }
+        panel->SetLoopFromPointsWithBulgesAt(1, hole, round);
+        panel->SetTextLabel(DbxPanel::TextLabelType::kNumber, L"A-01", DbxPanel::PredefinedTextPosition::kCenter);
+        panel->SetTextLabel(DbxPanel::TextLabelType::kBottomText, L"YX35-125-750 L=6000",
+                            DbxPanel::PredefinedTextPosition::kNearBottomEdge);
+        return panel;
+    }
+    static void Edit(AecPanel* panel)
+    {
+        panel->UpdateTextContent(DbxPanel::TextLabelType::kNumber, L"A-02");
+        panel->SetGeomLengthAndFlush(6500, true);
+    }
+};
 
 template <>
 struct ConformanceCase<AecCircleOpening> {
@@ -189,5 +236,5 @@ struct ConformanceCase<AecLayoutBoundary> {
     }
 };
 
-using ConformanceTypes = ::testing::Types<AecCircleOpening, AecDivisionLine, AecOverlapLine, AecStructuralLine,
-                                          AecRectOpening, AecPolyOpening, AecLayoutBoundary>;
+using ConformanceTypes = ::testing::Types<AecPanel, AecCircleOpening, AecDivisionLine, AecOverlapLine,
+                                          AecStructuralLine, AecRectOpening, AecPolyOpening, AecLayoutBoundary>;

@@ -66,6 +66,8 @@ constexpr UINT WM_CHAR = 0x0102;
 
 // The cursor's screen position. Headless: there is no cursor; answers FALSE and (0, 0).
 ACHOST_API BOOL GetCursorPos(LPPOINT point);
+// Milliseconds since the system started, wrapping to 0 after about 49.7 days.
+ACHOST_API DWORD GetTickCount();
 #endif
 
 class ACHOST_API CPoint : public POINT {

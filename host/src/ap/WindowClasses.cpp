@@ -2,6 +2,9 @@
 
 #include "afxwin.h"
 
+#include <cstdint>
+#include <ctime>
+
 bool CRuntimeClass::IsDerivedFrom(const CRuntimeClass* base) const
 {
     for (const CRuntimeClass* cls = this; cls != nullptr; cls = cls->m_pBaseClass) {
@@ -49,4 +52,15 @@ BOOL GetCursorPos(LPPOINT point)
         point->y = 0;
     }
     return FALSE;
+}
+
+// The monotonic clock counts from the system's start, as the platform's tick count does;
+// the 32-bit value wraps as the platform's does.
+DWORD GetTickCount()
+{
+    timespec now{};
+    clock_gettime(CLOCK_BOOTTIME, &now);
+    const auto milliseconds =
+        static_cast<std::uint64_t>(now.tv_sec) * 1000u + static_cast<std::uint64_t>(now.tv_nsec) / 1000000u;
+    return static_cast<DWORD>(milliseconds & 0xFFFFFFFFu);
 }
