@@ -86,7 +86,8 @@ public:
     const AcDbPolyline* GetCurveBaseConstPolyline() const;
 
     // ---- size along and across the laying direction (the basic information's
-    // "lengthDirection", the X axis without one)
+    // "lengthDirection", the X axis without one), measured over the outline's vertices as
+    // the labels' box is: an arced edge's bulge does not count
 
     double GetGeomLength() const;
     double GetGeomWidth() const;
