@@ -66,7 +66,7 @@ def numbering(number, sequence):
 
 
 def hatch(angle):
-    return {"patternType": 1, "patternName": "ANSI31", "patScale": 40, "patternAngle": angle, "patFillColor": 8}
+    return {"patternType": 1, "patternName": "ANSI31", "patScale": 2400, "patternAngle": angle, "patFillColor": 8}
 
 
 def labels(number, bottom):

@@ -61,18 +61,21 @@ TEST_F(CheckCommandTest, FindsTheBlocksOfEveryKindThatKeepsThem)
 {
     qxtest::WriteFile(folder / "lines.json", R"({"format": "quarvo-layout", "version": 1,
       "overlapLines": [{"start": {"x": 0, "y": 0}, "end": {"x": 100, "y": 0}, "accessoryInfo": "[1,"}],
-      "structuralLines": [{"start": {"x": 0, "y": 0}, "end": {"x": 0, "y": 100}, "shouBianInfo": "{}x"}]})");
+      "structuralLines": [{"start": {"x": 0, "y": 0}, "end": {"x": 0, "y": 100}, "shouBianInfo": "{}x"}],
+      "panels": [{"loops": [[{"x": 0, "y": 0}, {"x": 9, "y": 0}, {"x": 0, "y": 9}]], "hatchInfo": "{\"patScale\""}]})");
     const auto built = RunQuarvo({"new", folder / "lines.json", "-o", folder / "lines.qxd"});
     ASSERT_EQ(built.exitCode, 0) << built.err;
     const std::string overlap = HandleOf(folder / "lines.qxd", "QX_OVERLAP_LINE");
     const std::string structural = HandleOf(folder / "lines.qxd", "QX_STRUCTURAL_LINE");
+    const std::string panel = HandleOf(folder / "lines.qxd", "QX_PANEL");
     const auto run = RunQuarvo({"check", folder / "lines.qxd"});
     EXPECT_EQ(run.exitCode, 1);
     const auto lines = qxtest::Lines(run.out);
-    ASSERT_EQ(lines.size(), 3u) << run.out;
-    EXPECT_EQ(lines[0].rfind(overlap + " QX_OVERLAP_LINE: 辅配件信息 is not valid JSON (", 0), 0u) << lines[0];
-    EXPECT_EQ(lines[1].rfind(structural + " QX_STRUCTURAL_LINE: 收边信息 is not valid JSON (", 0), 0u) << lines[1];
-    EXPECT_EQ(lines[2], "2 findings in 2 entities.");
+    ASSERT_EQ(lines.size(), 4u) << run.out;
+    EXPECT_EQ(lines[0].rfind(panel + " QX_PANEL: 填充图案信息 is not valid JSON (", 0), 0u) << lines[0];
+    EXPECT_EQ(lines[1].rfind(overlap + " QX_OVERLAP_LINE: 辅配件信息 is not valid JSON (", 0), 0u) << lines[1];
+    EXPECT_EQ(lines[2].rfind(structural + " QX_STRUCTURAL_LINE: 收边信息 is not valid JSON (", 0), 0u) << lines[2];
+    EXPECT_EQ(lines[3], "3 findings in 3 entities.");
 }
 
 TEST_F(CheckCommandTest, FindsADamagedRecord)

@@ -11,6 +11,7 @@
 #include "headless/CommandLine.h"
 #include "dbsymtb.h"
 #include "openings/AecLayoutBoundary.h"
+#include "panel/AecPanel.h"
 
 namespace {
 
@@ -163,6 +164,75 @@ TEST(NewCommandTest, ABoundaryIsLaidCounterClockwiseWithItsTitle)
     EXPECT_EQ(data.referenceSize, 50.0);
 }
 
+// Two panels of one merge group name each other by handle once both exist; the labels,
+// holes and blocks come back as the description gave them.
+TEST(NewCommandTest, PanelsListWhatTheirDescriptionsSaidAndGroupsNameHandles)
+{
+    const std::string layout = R"({"format": "quarvo-layout", "version": 1,
+  "layers": [{"name": "QX-板材", "color": 3}],
+  "panels": [
+    {"layer": "QX-板材",
+     "loops": [[{"x": 0, "y": 0}, {"x": 750, "y": 0}, {"x": 750, "y": 6000, "bulge": 0.1}, {"x": 0, "y": 6000}],
+               [{"x": 300, "y": 2900}, {"x": 450, "y": 2900}, {"x": 450, "y": 3100}, {"x": 300, "y": 3100}]],
+     "labels": [{"type": 0, "text": "A-01", "directionMode": "perpendicular"},
+                {"type": 3, "text": "YX35-125-750", "predefinedPosition": 20, "height": 150}],
+     "basicInfo": {"banLeiXing": "YX35-125-750", "thickness": 0.6, "lengthDirection": [0, 1]},
+     "mergeInfo": {"direction": 1, "sequenceNumber": 1, "relatedPanels": [1]},
+     "accessoryInfo": ["丁基胶带"]},
+    {"loops": [[{"x": 0, "y": 5800}, {"x": 750, "y": 5800}, {"x": 750, "y": 9000}, {"x": 0, "y": 9000}]],
+     "basicInfo": {"lengthDirection": [0, 1]},
+     "mergeInfo": {"direction": 1, "sequenceNumber": 2, "relatedPanels": [0]}, "hatchDisplay": false}
+  ]})";
+    qxtest::TempFolder folder;
+    qxtest::WriteFile(folder / "panels.json", layout);
+    const auto built = RunQuarvo({"new", folder / "panels.json", "-o", folder / "panels.qxd"});
+    ASSERT_EQ(built.exitCode, 0) << built.err;
+    const auto listed = RunQuarvo({"list", folder / "panels.qxd", "--type", "QX_PANEL"});
+    ASSERT_EQ(listed.exitCode, 0) << listed.err;
+    const std::vector<std::string> handles = qxtest::HandlesIn(listed.out);
+    ASSERT_EQ(handles.size(), 2u);
+    for (const char* line : {"├─ 板型: YX35-125-750", "├─ 回路 1 (内轮廓/孔洞): 4 个顶点",
+                             "├─   顶点 2: [ X: 750.0000, Y: 6000.0000 ] | 凸度: 0.1000", "├─ 编号 0: \"A-01\"",
+                             "├─ 底部文字 1: \"YX35-125-750\"",
+                             // Laid along Y, the box's bottom is the plan's right: 50 in from x = 750.
+                             "├─   位置: (700.000, 3000.000, 0.000)", "├─ 几何长度: 6000.00 mm", "└─ 关联板材数量: 1"})
+        EXPECT_TRUE(Contains(listed.out, std::string("\n") + line + "\n")) << line << "\n" << listed.out;
+
+    // Each panel's merge block names itself and the other.
+    qxtest::WorkingDatabase working;
+    rapidjson::Document document;
+    quarvo::LayoutBuilder::Parse(layout, document);
+    std::map<std::string, int> counts;
+    quarvo::LayoutBuilder::Build(document, working.db(), counts);
+    std::vector<std::wstring> merges;
+    std::vector<std::wstring> own;
+    AcDbBlockTableRecordIterator* it = nullptr;
+    AcDbBlockTableRecord* space = nullptr;
+    ASSERT_EQ(acdbOpenObject(space, working.db()->currentSpaceId(), AcDb::kForRead), Acad::eOk);
+    space->newIterator(it);
+    for (; !it->done(); it->step()) {
+        AecPanel* panel = nullptr;
+        AcDbObjectId id;
+        it->getEntityId(id);
+        if (acdbOpenObject(panel, id, AcDb::kForRead) != Acad::eOk)
+            continue;
+        DbxPanel::PanelMergeInfo merge;
+        EXPECT_TRUE(panel->GetPanelMergeInfo(merge));
+        own.push_back(merge.GetHandle().kwszPtr());
+        merges.push_back(merge.GetRelatedPanelHandles().size() == 1 ? merge.GetRelatedPanelHandles()[0].kwszPtr()
+                                                                    : L"?");
+        ACHAR handle[32] = {};
+        id.handle().getIntoAsciiBuffer(handle, 32);
+        EXPECT_EQ(own.back(), handle);
+        panel->close();
+    }
+    delete it;
+    space->close();
+    ASSERT_EQ(merges.size(), 2u);
+    EXPECT_EQ(merges[0], own[1]);
+    EXPECT_EQ(merges[1], own[0]);
+}
+
 struct RefusedCase {
     const char* name;
     const char* description;
@@ -250,6 +320,20 @@ TEST(NewCommandTest, RefusesEveryBadDescriptionByItsPathAndWritesNothing)
         {Layout(R"("polyOpenings": [{"vertices": [{"x": 0, "y": 0}, {"x": 9, "y": 0}, {"x": 0, "y": 9}],
                      "segmentLabels": {"texts": ["a", "b", "c", "d"]}}])"),
          "polyOpenings[0].segmentLabels.texts: one text per segment: the outline has 3"},
+        {Layout(R"("panels": [{"loops": [[{"x": 0, "y": 0}, {"x": 9, "y": 0}, {"x": 18, "y": 0}]]}])"),
+         "panels[0].loops[0]: the loop encloses nothing"},
+        {Layout(R"("panels": [{"loops": [[{"x": 0, "y": 0}, {"x": 9, "y": 0}, {"x": 0, "y": 9}]],
+                     "labels": [{"type": 0}, {"type": 0}]}])"),
+         "panels[0].labels[1].type: a panel has one label of each type, 0 is given twice"},
+        {Layout(R"("panels": [{"loops": [[{"x": 0, "y": 0}, {"x": 9, "y": 0}, {"x": 0, "y": 9}]],
+                     "labels": [{"text": "A"}]}])"),
+         "panels[0].labels[0]: needs \"type\""},
+        {Layout(R"("panels": [{"loops": [[{"x": 0, "y": 0}, {"x": 9, "y": 0}, {"x": 0, "y": 9}]],
+                     "mergeInfo": {"relatedPanels": [3]}}])"),
+         "panels[0].mergeInfo.relatedPanels[0]: no panel 3 in panels"},
+        {Layout(R"("panels": [{"loops": [[{"x": 0, "y": 0}, {"x": 9, "y": 0}, {"x": 0, "y": 9}]],
+                     "shapeInfo": {"relatedPanels": [0]}}])"),
+         "panels[0].shapeInfo.relatedPanels[0]: a panel is not its own member"},
         {Layout(R"("name": )" + std::string(70, '[') + std::string(70, ']')),
          "the layout: nested deeper than 64 levels"},
     };
@@ -270,7 +354,6 @@ TEST(NewCommandTest, RefusesEveryBadDescriptionByItsPathAndWritesNothing)
 TEST(NewCommandTest, RefusesKindsTheModuleDoesNotHaveYet)
 {
     const std::vector<std::pair<std::string, std::string>> kinds = {
-        {R"("panels": [{}])", "panels[0]"},
         {R"("litePanels": [{}])", "litePanels[0]"},
         {R"("flashingLines": [{}])", "flashingLines[0]"},
         {R"("steelMembers": [{}])", "steelMembers[0]"},
@@ -285,7 +368,7 @@ TEST(NewCommandTest, RefusesKindsTheModuleDoesNotHaveYet)
         EXPECT_FALSE(qxtest::FileExists(folder / "kind.qxd"));
     }
     // An empty array of such a kind asks for nothing.
-    qxtest::WriteFile(folder / "empty.json", Layout(Line("") + R"(, "panels": [])"));
+    qxtest::WriteFile(folder / "empty.json", Layout(Line("") + R"(, "litePanels": [])"));
     EXPECT_EQ(RunQuarvo({"new", folder / "empty.json", "-o", folder / "empty.qxd"}).exitCode, 0);
 }
 

@@ -32,6 +32,7 @@ TEST(EntityChecksTest, LoopsAreHeldToTheHostPolylinesLimits)
          {{0, 0, 0}, {10, 0, 0}},
          true,
          "a closed loop needs at least 3 vertices, this one has 2"},
+        {"two bulged vertices, closed: a circle", {{0, 0, 1}, {10, 0, 1}}, true, ""},
         {"one vertex, open", {{0, 0, 0}}, false, "a open loop needs at least 2 vertices, this one has 1"},
         {"a NaN", {{0, 0, 0}, {nan, 0, 0}, {10, 10, 0}}, true, "vertex 1 is not a finite number"},
         {"a bulge of 1001", {{0, 0, 0}, {10, 0, 1001}, {10, 10, 0}}, true, "vertex 1 has a bulge beyond 1000"},

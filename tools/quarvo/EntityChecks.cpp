@@ -11,6 +11,7 @@
 #include "lines/AecDivisionLine.h"
 #include "lines/AecOverlapLine.h"
 #include "lines/AecStructuralLine.h"
+#include "panel/AecPanel.h"
 
 namespace quarvo {
 namespace {
@@ -34,6 +35,30 @@ void CheckLayoutLine(const AcDbEntity* entity, std::vector<std::string>& finding
     CheckBlock(line->GetAccessoryJsonStr(), "辅配件信息", findings);
 }
 
+// A panel's six blocks, and loops the host polyline would refuse (the panel then skips
+// them: they neither draw nor file their outline).
+void CheckPanel(const AcDbEntity* entity, std::vector<std::string>& findings)
+{
+    const AecPanel* panel = AecPanel::cast(entity);
+    CheckBlock(panel->GetPanelBasicInfoJsonStr(), "基础信息", findings);
+    CheckBlock(panel->GetNumberingAndEncodingInfoJsonStr(), "编号和编码信息", findings);
+    CheckBlock(panel->GetHatchPatternInfoJsonStr(), "填充图案信息", findings);
+    CheckBlock(panel->GetPanelMergeInfoJsonStr(), "板材合并信息", findings);
+    CheckBlock(panel->GetPanelShapeInfoJsonStr(), "板材形状信息", findings);
+    CheckBlock(panel->GetPanelAccessoryInfoJsonStr(), "辅配件信息", findings);
+    for (int loop = 0; loop < panel->GetLoopCount(); ++loop) {
+        AcArray<AcGePoint2d> points;
+        AcArray<double> bulges;
+        panel->GetLoopPointsWithBulgesAt(loop, points, bulges);
+        std::vector<EntityChecks::Vertex> vertices;
+        for (int i = 0; i < points.length(); ++i)
+            vertices.push_back({points[i].x, points[i].y, bulges[i]});
+        const std::string problem = EntityChecks::LoopProblem(vertices, true);
+        if (!problem.empty())
+            findings.push_back("loop " + std::to_string(loop) + ": " + problem);
+    }
+}
+
 struct Hook {
     AcRxClass* (*desc)();
     void (*check)(const AcDbEntity*, std::vector<std::string>&);
@@ -44,6 +69,7 @@ const Hook kHooks[] = {
     {&AecDivisionLine::desc, &CheckLayoutLine<AecDivisionLine>},
     {&AecOverlapLine::desc, &CheckLayoutLine<AecOverlapLine>},
     {&AecStructuralLine::desc, &CheckLayoutLine<AecStructuralLine>},
+    {&AecPanel::desc, &CheckPanel},
 };
 
 }  // namespace
@@ -72,7 +98,9 @@ std::string EntityChecks::JsonProblem(const std::wstring& text)
 
 std::string EntityChecks::LoopProblem(const std::vector<Vertex>& loop, bool closed)
 {
-    const std::size_t needed = closed ? 3 : 2;
+    // Two vertices close into a circle or a lens when the first bulges.
+    const bool lens = closed && loop.size() == 2 && loop[0].bulge != 0.0;
+    const std::size_t needed = closed && !lens ? 3 : 2;
     if (loop.size() < needed)
         return "a " + std::string(closed ? "closed" : "open") + " loop needs at least " + std::to_string(needed) +
             " vertices, this one has " + std::to_string(loop.size());

@@ -70,6 +70,8 @@ public:
     std::wstring InformationBlock(const char* key);
     // A nested object, or null when absent.
     const rapidjson::Value* Object(const char* key);
+    // The member as it stands, whatever its type, or null when absent.
+    const rapidjson::Value* Any(const char* key) { return Member(key); }
     // A nested array, or null when absent.
     const rapidjson::Value* Array(const char* key);
 

@@ -7,6 +7,7 @@
 #include "DivisionLineBuilder.h"
 #include "LayoutBoundaryBuilder.h"
 #include "OverlapLineBuilder.h"
+#include "PanelBuilder.h"
 #include "PolyOpeningBuilder.h"
 #include "RectOpeningBuilder.h"
 #include "StructuralLineBuilder.h"
@@ -20,7 +21,7 @@ const std::vector<LayoutKind>& LayoutBuilder::Kinds()
     // as its entity joins the module.
     static const std::vector<LayoutKind> kinds = {
         {"boundary", &BuildLayoutBoundary},
-        {"panels", nullptr},
+        {"panels", &BuildPanel},
         {"litePanels", nullptr},
         {"divisionLines", &BuildDivisionLine},
         {"overlapLines", &BuildOverlapLine},
