@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <cstring>
 #include <cmath>
 #include <fstream>
 #include <tuple>
@@ -287,6 +288,32 @@ TEST(AecPanelTest, ABlockThatDoesNotParseIsListedAsFailedWhileThePanelWorks)
     AecPanel read;
     ASSERT_EQ(qxtest::FileIn(&read, qxtest::FileOut(panel.get())), Acad::eOk);
     EXPECT_STREQ(read.GetPanelMergeInfoJsonStr(), L"{\"direction\": ");
+}
+
+// A loop that no setter would take can still come from a file: the rebuild skips it with
+// its warning and the panel goes on without that outline.
+TEST(AecPanelTest, ALoopBeyondThePolylinesLimitsIsSkippedWithAWarning)
+{
+    std::unique_ptr<AecPanel> panel(paneltest::RichPanel());
+    qxtest::Bytes bytes = qxtest::FileOut(panel.get());
+    const std::uint8_t quarter[] = {0, 0, 0, 0, 0, 0, 0xD0, 0x3F};  // the outline's first bulge, 0.25
+    const auto at = std::search(bytes.begin(), bytes.end(), std::begin(quarter), std::end(quarter));
+    ASSERT_NE(at, bytes.end());
+    const double huge = 5000.0;
+    std::memcpy(&*at, &huge, sizeof huge);
+    AecPanel read;
+    ASSERT_EQ(qxtest::FileIn(&read, bytes), Acad::eOk);
+    headless::CommandLineCapture capture;
+    read.FlushGraphicSubEntities(false);
+    EXPECT_EQ(capture.text(), L"\n警告:FlushLoopPoly [0]顶点数及凸度限制要求不满足，跳过缓存。");
+    EXPECT_EQ(read.GetLoopPolylineAt(0), nullptr);
+    EXPECT_NE(read.GetLoopPolylineAt(1), nullptr);
+    // Neither the outline nor the hatch it bounds is drawn; the holes and labels are.
+    const auto drawn = qxtest::Draw(&read);
+    std::size_t plines = 0;
+    for (const auto& p : drawn)
+        plines += p.kind == headless::PrimitiveKind::kPline;
+    EXPECT_EQ(plines, 2u);
 }
 
 TEST(AecPanelTest, ADamagedRecordLeavesThePanelAsItWas)
