@@ -13,6 +13,7 @@
 #include "openings/AecRectOpening.h"
 #include "openings/OpeningGripData.h"
 #include "panel/AecPanel.h"
+#include "panel/AecPanelLite.h"
 #include "rxboiler.h"
 
 namespace Quarvo {
@@ -38,7 +39,7 @@ const std::vector<ClassEntry>& RegistrationTable()
 {
     static const std::vector<ClassEntry> table = {
         Entry<AecPanel>(L"AecPanel"),  // step 1
-        // Step 2: AecPanelLite.
+        Entry<AecPanelLite>(L"AecPanelLite"),  // step 2
         Entry<QxPolylineBasedCurve>(L"QxPolylineBasedCurve"),  // step 3
         Entry<AecDivisionLine>(L"AecDivisionLine"),            // step 4
         Entry<AecOverlapLine>(L"AecOverlapLine"),              // step 5
@@ -58,7 +59,7 @@ const std::vector<ClassEntry>& TearDownTable()
 {
     static const std::vector<ClassEntry> table = {
         Entry<AecPanel>(L"AecPanel"),  // 1st
-        // AecPanelLite.
+        Entry<AecPanelLite>(L"AecPanelLite"),  // 2nd
         Entry<AecRectOpening>(L"AecRectOpening"),                         // 3rd
         Entry<AecRectOpeningUnits::OpeningGripData>(L"OpeningGripData"),  // 4th
         Entry<AecDivisionLine>(L"AecDivisionLine"),                       // 5th
