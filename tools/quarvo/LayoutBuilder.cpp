@@ -6,6 +6,7 @@
 #include "CircleOpeningBuilder.h"
 #include "DivisionLineBuilder.h"
 #include "LayoutBoundaryBuilder.h"
+#include "LitePanelBuilder.h"
 #include "OverlapLineBuilder.h"
 #include "PolyOpeningBuilder.h"
 #include "RectOpeningBuilder.h"
@@ -21,7 +22,7 @@ const std::vector<LayoutKind>& LayoutBuilder::Kinds()
     static const std::vector<LayoutKind> kinds = {
         {"boundary", &BuildLayoutBoundary},
         {"panels", nullptr},
-        {"litePanels", nullptr},
+        {"litePanels", &BuildLitePanel},
         {"divisionLines", &BuildDivisionLine},
         {"overlapLines", &BuildOverlapLine},
         {"structuralLines", &BuildStructuralLine},
