@@ -236,8 +236,8 @@ Acad::ErrorStatus AecPanelLite::SetOutlineAndPattern(AcDbHatch::HatchPatternType
     return Acad::eOk;
 }
 
-void AecPanelLite::GetOutlineAndPattern(AcDbHatch::HatchPatternType& type, AcString& name, double& scale,
-                                        double& angle, int& colour, double& last) const
+void AecPanelLite::GetOutlineAndPattern(AcDbHatch::HatchPatternType& type, AcString& name, double& scale, double& angle,
+                                        int& colour, double& last) const
 {
     assertReadEnabled();
     type = m_patternType;

@@ -238,8 +238,7 @@ Acad::ErrorStatus AecPanelLite::subGetGsMarkersAtSubentPath(const AcDbFullSubent
 
 Acad::ErrorStatus AecPanelLite::subGetSubentPathsAtGsMarker(AcDb::SubentType type, Adesk::GsMarker gsMark,
                                                             const AcGePoint3d&, const AcGeMatrix3d&, int& numPaths,
-                                                            AcDbFullSubentPath*& subentPaths, int,
-                                                            AcDbObjectId*) const
+                                                            AcDbFullSubentPath*& subentPaths, int, AcDbObjectId*) const
 {
     assertReadEnabled();
     numPaths = 0;

@@ -62,7 +62,9 @@ TEST(AecPanelLiteTest, TheAreaAddsEveryLoopHolesIncluded)
         {"a closing vertex that repeats the first counts once",
          {{{0, 0, 0}, {10, 0, 0}, {10, 10, 0}, {0, 10, 0}, {0, 0, 0}}},
          100.0},
-        {"an arced edge bulging out by a half circle", {{{0, 0, 0}, {10, 0, 0}, {10, 10, 1.0}, {0, 10, 0}}}, 100.0 + halfDisc},
+        {"an arced edge bulging out by a half circle",
+         {{{0, 0, 0}, {10, 0, 0}, {10, 10, 1.0}, {0, 10, 0}}},
+         100.0 + halfDisc},
         {"a hole of two half circles", {Rectangle(0, 0, 10, 10), {{2, 5, 1.0}, {8, 5, 1.0}}}, 100.0 + M_PI * 9.0},
     };
     for (const Case& c : cases) {
@@ -116,8 +118,9 @@ TEST(AecPanelLiteTest, LoopsAndPatternValuesRefuseWhatCannotBeDrawn)
     const std::tuple<int, double, double, double> bad[] = {
         {3, 1.0, 0.0, 0.0}, {1, 0.0, 0.0, 0.0}, {1, -1.0, 0.0, 0.0}, {1, 1.0, nan, 0.0}, {1, 1.0, 0.0, HUGE_VAL}};
     for (const auto& [type, scale, angle, last] : bad)
-        EXPECT_EQ(panel.SetOutlineAndPattern(static_cast<AcDbHatch::HatchPatternType>(type), L"X", scale, angle, 1, last),
-                  Acad::eInvalidInput);
+        EXPECT_EQ(
+            panel.SetOutlineAndPattern(static_cast<AcDbHatch::HatchPatternType>(type), L"X", scale, angle, 1, last),
+            Acad::eInvalidInput);
     EXPECT_EQ(panel.SetPatScale(0.0), Acad::eInvalidInput);
     AcDbHatch::HatchPatternType type;
     AcString name;
@@ -326,9 +329,8 @@ TEST(AecPanelLiteTest, TheListNamesThePatternAndItsScale)
               L"\n"
               L"         QX_PANEL_LITE    Layer: \"0\"\n"
               L"                          Space: Model space\n"
-              L"                          Handle = "
-                  + std::wstring(handle)
-                  + L"\n填充图案: ANSI31\n填充比例: 12.5");
+              L"                          Handle = " +
+                  std::wstring(handle) + L"\n填充图案: ANSI31\n填充比例: 12.5");
     panel->close();
 }
 

@@ -23,7 +23,8 @@ void BuildLitePanel(JsonObjectReader& item, LayoutContext& context)
     }
     if (const rapidjson::Value* pattern = item.Object("pattern")) {
         JsonObjectReader fill(*pattern, item.PathOf("pattern"));
-        const int type = fill.Integer("type", AcDbHatch::kPreDefined, AcDbHatch::kUserDefined, AcDbHatch::kCustomDefined);
+        const int type =
+            fill.Integer("type", AcDbHatch::kPreDefined, AcDbHatch::kUserDefined, AcDbHatch::kCustomDefined);
         const std::wstring name = fill.String("name", L"");
         const double scale = fill.PositiveNumber("scale", 1.0);
         const double angle = fill.Number("angle", 0.0);
