@@ -13,6 +13,7 @@
 #include "openings/AecRectOpening.h"
 #include "openings/OpeningGripData.h"
 #include "panel/AecPanel.h"
+#include "panel/AecPanelLite.h"
 #include "rxboiler.h"
 
 namespace Quarvo {
@@ -37,8 +38,8 @@ ClassEntry Entry(const ACHAR* name)
 const std::vector<ClassEntry>& RegistrationTable()
 {
     static const std::vector<ClassEntry> table = {
-        Entry<AecPanel>(L"AecPanel"),  // step 1
-        // Step 2: AecPanelLite.
+        Entry<AecPanel>(L"AecPanel"),                          // step 1
+        Entry<AecPanelLite>(L"AecPanelLite"),                  // step 2
         Entry<QxPolylineBasedCurve>(L"QxPolylineBasedCurve"),  // step 3
         Entry<AecDivisionLine>(L"AecDivisionLine"),            // step 4
         Entry<AecOverlapLine>(L"AecOverlapLine"),              // step 5
@@ -57,8 +58,8 @@ const std::vector<ClassEntry>& RegistrationTable()
 const std::vector<ClassEntry>& TearDownTable()
 {
     static const std::vector<ClassEntry> table = {
-        Entry<AecPanel>(L"AecPanel"),  // 1st
-        // AecPanelLite.
+        Entry<AecPanel>(L"AecPanel"),                                     // 1st
+        Entry<AecPanelLite>(L"AecPanelLite"),                             // 2nd
         Entry<AecRectOpening>(L"AecRectOpening"),                         // 3rd
         Entry<AecRectOpeningUnits::OpeningGripData>(L"OpeningGripData"),  // 4th
         Entry<AecDivisionLine>(L"AecDivisionLine"),                       // 5th

@@ -50,6 +50,7 @@ struct ModuleClass {
 const ModuleClass kModuleClasses[] = {
     // name, parent, DXF name, versions, proxy flags, constructor, registration and tear-down steps
     {L"AecPanel", L"AcDbEntity", L"QX_PANEL", 33, 327, 895, true, 1, 1},
+    {L"AecPanelLite", L"AcDbEntity", L"QX_PANEL_LITE", 33, 327, 895, true, 2, 2},
     {L"QxPolylineBasedCurve", L"AcDbCurve", nullptr, 0, 0, 0, false, 3, 10},
     {L"AecDivisionLine", L"QxPolylineBasedCurve", L"QX_DIVISION_LINE", 33, 327, 895, true, 4, 5},
     {L"AecOverlapLine", L"QxPolylineBasedCurve", L"QX_OVERLAP_LINE", 33, 327, 895, true, 5, 6},

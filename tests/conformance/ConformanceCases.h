@@ -16,9 +16,24 @@
 #include "openings/AecPolyOpening.h"
 #include "openings/AecRectOpening.h"
 #include "panel/AecPanel.h"
+#include "panel/AecPanelLite.h"
 
 template <typename T>
 struct ConformanceCase;
+
+// How a class files its version right after the host class's fields: most as a 32-bit
+// integer, some as a 16-bit one.
+template <typename T>
+struct ClassVersion {
+    static constexpr std::size_t kBytes = 4;
+    static constexpr long kCurrent = T::kCurrentVersion;
+};
+
+template <>
+struct ClassVersion<AecPanelLite> {
+    static constexpr std::size_t kBytes = 2;
+    static constexpr long kCurrent = AecPanelLite::m_curVersion;
+};
 
 template <>
 struct ConformanceCase<AecPanel> {
@@ -60,6 +75,38 @@ struct ConformanceCase<AecPanel> {
     {
         panel->UpdateTextContent(DbxPanel::TextLabelType::kNumber, L"A-02");
         panel->SetGeomLengthAndFlush(6500, true);
+    }
+};
+
+template <>
+struct ConformanceCase<AecPanelLite> {
+    using HostBase = AcDbEntity;
+    // A 6000 by 750 sheet with one arced end and a round hole, hatched.
+    static AecPanelLite* MakeSample()
+    {
+        auto* panel = new AecPanelLite();
+        AcArray<AcGePoint2d> outline;
+        AcArray<double> bulges;
+        for (const auto& [x, y, b] :
+             {std::tuple<double, double, double>{0, 0, 0}, {6000, 0, 0.2}, {6000, 750, 0}, {0, 750, 0}}) {
+            outline.append(AcGePoint2d(x, y));
+            bulges.append(b);
+        }
+        panel->AppendLoop(outline, bulges);
+        AcArray<AcGePoint2d> hole;
+        AcArray<double> round;
+        for (const auto& [x, y] : {std::pair<double, double>{3100, 375}, {2900, 375}}) {
+            hole.append(AcGePoint2d(x, y));
+            round.append(1.0);
+        }
+        panel->AppendLoop(hole, round);
+        panel->SetOutlineAndPattern(AcDbHatch::kPreDefined, L"ANSI31", 40.0, 0.25, 8, 1.5);
+        return panel;
+    }
+    static void Edit(AecPanelLite* panel)
+    {
+        panel->SetPatScale(60.0);
+        panel->AddVertex(AcGePoint3d(3000, -100, 0));
     }
 };
 
@@ -236,5 +283,5 @@ struct ConformanceCase<AecLayoutBoundary> {
     }
 };
 
-using ConformanceTypes = ::testing::Types<AecPanel, AecCircleOpening, AecDivisionLine, AecOverlapLine,
+using ConformanceTypes = ::testing::Types<AecPanel, AecPanelLite, AecCircleOpening, AecDivisionLine, AecOverlapLine,
                                           AecStructuralLine, AecRectOpening, AecPolyOpening, AecLayoutBoundary>;

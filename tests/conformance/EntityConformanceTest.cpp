@@ -22,6 +22,20 @@ namespace {
 
 const bool kModuleLoaded = qxtest::RegisterModuleEnvironment();
 
+long ReadLittleEndian(const std::vector<std::uint8_t>& bytes, std::size_t at, std::size_t size)
+{
+    unsigned long value = 0;
+    for (std::size_t i = 0; i < size; ++i)
+        value |= static_cast<unsigned long>(bytes[at + i]) << (8 * i);
+    return static_cast<long>(value);
+}
+
+void WriteLittleEndian(std::vector<std::uint8_t>& bytes, std::size_t at, std::size_t size, long value)
+{
+    for (std::size_t i = 0; i < size; ++i)
+        bytes[at + i] = static_cast<std::uint8_t>(static_cast<unsigned long>(value) >> (8 * i));
+}
+
 template <typename T>
 class EntityConformanceTest : public ::testing::Test {
 protected:
@@ -156,15 +170,12 @@ TYPED_TEST(EntityConformanceTest, ANewerClassVersionIsRefused)
     ASSERT_EQ(entity->HostBase::dwgOutFields(&hostPart), Acad::eOk);
     entity->close();
 
-    // The class version is the 32-bit integer right after the host class's fields.
+    // The class version comes right after the host class's fields.
+    using Version = ClassVersion<TypeParam>;
     const std::size_t at = hostPart.bytes().size();
-    ASSERT_LE(at + 4, bytes.size());
-    const Adesk::Int32 version =
-        static_cast<Adesk::Int32>(bytes[at] | (bytes[at + 1] << 8) | (bytes[at + 2] << 16) | (bytes[at + 3] << 24));
-    EXPECT_EQ(version, TypeParam::kCurrentVersion);
-    const Adesk::Int32 newer = version + 1;
-    for (int i = 0; i < 4; ++i)
-        bytes[at + static_cast<std::size_t>(i)] = static_cast<std::uint8_t>(static_cast<Adesk::UInt32>(newer) >> (8 * i));
+    ASSERT_LE(at + Version::kBytes, bytes.size());
+    EXPECT_EQ(ReadLittleEndian(bytes, at, Version::kBytes), Version::kCurrent);
+    WriteLittleEndian(bytes, at, Version::kBytes, Version::kCurrent + 1);
     std::unique_ptr<TypeParam> target(new TypeParam());
     EXPECT_EQ(qxtest::FileIn(target.get(), bytes, this->working.db()), Acad::eMakeMeProxy);
 }
@@ -183,7 +194,7 @@ TYPED_TEST(EntityConformanceTest, ADrawingKeepsANewerVersionAsAProxyAndLosesNoth
     std::vector<std::uint8_t> file;
     ASSERT_EQ(headless::DrawingFile::write(this->working.db(), file), Acad::eOk);
     ASSERT_TRUE(qxtest::PatchObjectBytes(file, handle, [&](std::vector<std::uint8_t>& bytes) {
-        qxtest::PutInt32(bytes, versionAt, TypeParam::kCurrentVersion + 1);
+        WriteLittleEndian(bytes, versionAt, ClassVersion<TypeParam>::kBytes, ClassVersion<TypeParam>::kCurrent + 1);
     }));
 
     AcDbDatabase* reopened = nullptr;

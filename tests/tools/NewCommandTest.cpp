@@ -124,6 +124,27 @@ TEST(NewCommandTest, LinesAndOpeningsListWhatTheirDescriptionsSaid)
     }
 }
 
+// A lite panel of a 1000 x 500 outline with a 200 x 100 hole: the list names its pattern.
+TEST(NewCommandTest, ALitePanelListsItsPattern)
+{
+    const std::string layout = R"({
+  "format": "quarvo-layout", "version": 1, "layers": [{"name": "QX-板材"}],
+  "litePanels": [{"layer": "QX-板材", "color": 3,
+                  "loops": [[{"x": 0, "y": 0}, {"x": 1000, "y": 0}, {"x": 1000, "y": 500}, {"x": 0, "y": 500}],
+                            [{"x": 100, "y": 100}, {"x": 300, "y": 100}, {"x": 300, "y": 200}, {"x": 100, "y": 200}]],
+                  "pattern": {"type": 1, "name": "ANSI37", "scale": 2.5, "angle": 0.5, "color": 8, "lastValue": 4}}]
+})";
+    qxtest::TempFolder folder;
+    qxtest::WriteFile(folder / "layout.json", layout);
+    const auto built = RunQuarvo({"new", folder / "layout.json", "-o", folder / "layout.qxd"});
+    ASSERT_EQ(built.exitCode, 0) << built.err;
+    EXPECT_EQ(built.out, "Built 1 entities (litePanels 1) into " + (folder / "layout.qxd") + "\n");
+    const auto listed = RunQuarvo({"list", folder / "layout.qxd", "--type", "QX_PANEL_LITE"});
+    ASSERT_EQ(listed.exitCode, 0) << listed.err;
+    EXPECT_TRUE(Contains(listed.out, "Layer: \"QX-板材\"")) << listed.out;
+    EXPECT_TRUE(Contains(listed.out, "\n填充图案: ANSI37\n填充比例: 2.5\n")) << listed.out;
+}
+
 // A clockwise outline is turned round: the same vertices the other way, each arc kept by
 // negating its bulge; the title is the description's.
 TEST(NewCommandTest, ABoundaryIsLaidCounterClockwiseWithItsTitle)
@@ -334,6 +355,13 @@ TEST(NewCommandTest, RefusesEveryBadDescriptionByItsPathAndWritesNothing)
         {Layout(R"("panels": [{"loops": [[{"x": 0, "y": 0}, {"x": 9, "y": 0}, {"x": 0, "y": 9}]],
                      "shapeInfo": {"relatedPanels": [0]}}])"),
          "panels[0].shapeInfo.relatedPanels[0]: a panel is not its own member"},
+        {Layout(R"("litePanels": [{"pattern": {"name": "ANSI31"}}])"), "litePanels[0]: needs \"loops\""},
+        {Layout(R"("litePanels": [{"loops": [[{"x": 0, "y": 0}, {"x": 9, "y": 0}, {"x": 0, "y": 9}]],
+                   "pattern": {"type": 3}}])"),
+         "litePanels[0].pattern.type: must be 0 to 2"},
+        {Layout(R"("litePanels": [{"loops": [[{"x": 0, "y": 0}, {"x": 9, "y": 0}, {"x": 0, "y": 9}]],
+                   "pattern": {"scale": 0}}])"),
+         "litePanels[0].pattern.scale: must be greater than 0"},
         {Layout(R"("name": )" + std::string(70, '[') + std::string(70, ']')),
          "the layout: nested deeper than 64 levels"},
     };
@@ -354,7 +382,6 @@ TEST(NewCommandTest, RefusesEveryBadDescriptionByItsPathAndWritesNothing)
 TEST(NewCommandTest, RefusesKindsTheModuleDoesNotHaveYet)
 {
     const std::vector<std::pair<std::string, std::string>> kinds = {
-        {R"("litePanels": [{}])", "litePanels[0]"},
         {R"("flashingLines": [{}])", "flashingLines[0]"},
         {R"("steelMembers": [{}])", "steelMembers[0]"},
     };
@@ -368,7 +395,7 @@ TEST(NewCommandTest, RefusesKindsTheModuleDoesNotHaveYet)
         EXPECT_FALSE(qxtest::FileExists(folder / "kind.qxd"));
     }
     // An empty array of such a kind asks for nothing.
-    qxtest::WriteFile(folder / "empty.json", Layout(Line("") + R"(, "litePanels": [])"));
+    qxtest::WriteFile(folder / "empty.json", Layout(Line("") + R"(, "steelMembers": [])"));
     EXPECT_EQ(RunQuarvo({"new", folder / "empty.json", "-o", folder / "empty.qxd"}).exitCode, 0);
 }
 

@@ -6,6 +6,7 @@
 #include "CircleOpeningBuilder.h"
 #include "DivisionLineBuilder.h"
 #include "LayoutBoundaryBuilder.h"
+#include "LitePanelBuilder.h"
 #include "OverlapLineBuilder.h"
 #include "PanelBuilder.h"
 #include "PolyOpeningBuilder.h"
@@ -22,7 +23,7 @@ const std::vector<LayoutKind>& LayoutBuilder::Kinds()
     static const std::vector<LayoutKind> kinds = {
         {"boundary", &BuildLayoutBoundary},
         {"panels", &BuildPanel},
-        {"litePanels", nullptr},
+        {"litePanels", &BuildLitePanel},
         {"divisionLines", &BuildDivisionLine},
         {"overlapLines", &BuildOverlapLine},
         {"structuralLines", &BuildStructuralLine},
