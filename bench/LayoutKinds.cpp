@@ -222,6 +222,69 @@ AcDbEntity* PlainBoundary(AcDbDatabase*, int i)
     return PlainPolyline(corners, 12, true);
 }
 
+
+// A roof sheet 750 wide and 6,000 long whose top end is cut to a shallow zigzag, so that
+// its outline has 4 to 40 vertices as i runs on; counterclockwise.
+void PanelOutline(int i, AcArray<AcGePoint2d>& points)
+{
+    const AcGePoint2d origin = Cell(i) * 8.0;
+    const int vertices = 4 + i % 37;
+    points.append(origin);
+    points.append(origin + AcGeVector2d(750.0, 0.0));
+    const int top = vertices - 2;
+    for (int k = 0; k < top; ++k)
+        points.append(origin + AcGeVector2d(750.0 - 750.0 * k / (top - 1), 6000.0 + (k % 2) * 40.0));
+}
+
+AcDbEntity* Panel(AcDbDatabase*, int i)
+{
+    auto* panel = new AecPanel();
+    AcArray<AcGePoint2d> outline;
+    PanelOutline(i, outline);
+    panel->SetOuterLoopFromPoints(outline);
+    if (i % 3 == 0) {  // a pipe penetration
+        const AcGePoint2d corner = outline[0] + AcGeVector2d(275.0, 2500.0);
+        AcArray<AcGePoint2d> hole;
+        hole.append(corner);
+        hole.append(corner + AcGeVector2d(200.0, 0.0));
+        hole.append(corner + AcGeVector2d(200.0, 200.0));
+        hole.append(corner + AcGeVector2d(0.0, 200.0));
+        panel->SetLoopFromPointsAt(1, hole);
+    }
+    const std::wstring number = Number(L"S-01-", i);
+    panel->SetAllPanelInfoFromJson(
+        (L"{\"productSeries\":\"YX\",\"panelName\":\"屋面板\",\"banLeiXing\":\"YX35-125-750\",\"roofPanelHand\":0,"
+         L"\"roofPanelXingShi\":1,\"thickness\":0.6,\"standardWidth\":750.0,\"innerColor\":\"海蓝\",\"outColor\":"
+         L"\"灰白\",\"isPositivePressure\":true,\"installationPosition\":1,\"contractNum\":\"HT-2026-118\","
+         L"\"directionType\":1,\"lengthDirection\":[0,1],\"textXDirection\":[1,0],\"slopeInputRaw\":\"5%\","
+         L"\"slopeAngleRadians\":0.049958395721942765,\"anchorModeLength\":1,\"anchorModeWidth\":1,"
+         L"\"panelParameters\":[{\"名称\":\"有效宽度\",\"值\":750.0}],\"primaryAxis\":\"A\",\"secondaryAxisStart\":"
+         L"\"1\",\"secondaryAxisEnd\":\"9\",\"constructionArea\":\"1# 厂房屋面\",\"materialCode\":"
+         L"\"M-YX35-125-750\",\"uniqueNum\":\"" +
+         Number(L"P-", i) +
+         L"\",\"layoutConfigId\":\"LC-2026-11\",\"materialData\":{\"基板\":\"镀铝锌 AZ150\",\"涂层\":\"PE\"}}")
+            .c_str(),
+        (L"{\"isNumbered\":true,\"finalDisplayNumber\":\"" + number + L"\",\"sequence\":" + std::to_wstring(i) +
+         L",\"customPrefix_1\":\"WM\",\"shapeSuffix\":\"\",\"drawingNumSuffix\":\"\",\"mergeSuffix\":\"\","
+         L"\"customSuffix\":\"\"}")
+            .c_str(),
+        L"{\"patternType\":1,\"patternName\":\"ANSI31\",\"patScale\":40,\"patternAngle\":0,\"patFillColor\":8}",
+        L"{\"direction\":1,\"sequenceNumber\":1,\"mergedLength\":18000.0,\"mergedWidth\":750.0,"
+        L"\"relatedPanels\":[1]}",
+        L"{}", L"[{\"名称\":\"自攻螺钉 ST6.3x25\",\"数量\":21},{\"名称\":\"丁基密封胶带\",\"长度\":750.0}]");
+    panel->SetTextLabel(DbxPanel::TextLabelType::kNumber, number.c_str());
+    panel->SetTextLabel(DbxPanel::TextLabelType::kLength, L"L=6000");
+    panel->SetTextLabel(DbxPanel::TextLabelType::kPanelType, L"YX35-125-750");
+    return panel;
+}
+
+AcDbEntity* PlainPanel(AcDbDatabase*, int i)
+{
+    AcArray<AcGePoint2d> outline;
+    PanelOutline(i, outline);
+    return PlainPolyline(outline.asArrayPtr(), outline.length(), true);
+}
+
 }  // namespace
 
 const std::vector<LayoutKind>& LayoutKinds()
@@ -231,6 +294,7 @@ const std::vector<LayoutKind>& LayoutKinds()
         {"structural_line", StructuralLine, PlainSegment},  {"circle_opening", CircleOpening, PlainCircle},
         {"rect_opening", RectOpening, PlainRect},           {"poly_opening", PolyOpening, PlainPoly},
         {"layout_boundary", LayoutBoundary, PlainBoundary},
+        {"panel", Panel, PlainPanel},
     };
     return kinds;
 }
