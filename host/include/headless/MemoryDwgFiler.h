@@ -107,6 +107,8 @@ public:
 
 private:
     Acad::ErrorStatus put(const void* data, std::size_t count);
+    // Room for count bytes at the position (the data grows as needed), which moves past them.
+    std::uint8_t* makeRoom(std::size_t count);
     Acad::ErrorStatus take(void* data, std::size_t count);
     template <typename T>
     Acad::ErrorStatus putLittle(T value);
