@@ -6,6 +6,7 @@
 #include <cstring>
 #include <limits>
 #include <type_traits>
+#include <utility>
 
 #include "AcDbDatabase.h"
 #include "acutmem.h"
@@ -69,6 +70,12 @@ Acad::ErrorStatus MemoryDwgFiler::dwgVersion(AcDb::AcDbDwgVersion& version,
     version = m_version;
     maintenance = m_maintenance;
     return Acad::eOk;
+}
+
+std::vector<std::uint8_t> MemoryDwgFiler::takeBytes()
+{
+    m_position = 0;
+    return std::exchange(m_bytes, {});
 }
 
 Acad::ErrorStatus MemoryDwgFiler::fail(Acad::ErrorStatus status)
