@@ -29,6 +29,18 @@ void storeLittle(std::uint8_t* out, U value)
     }
 }
 
+// Whether every character is of the basic plane and no surrogate: such a text is the same
+// code units in UTF-16.
+bool isBasicPlaneText(const wchar_t* text, std::size_t size)
+{
+    for (std::size_t i = 0; i < size; ++i) {
+        const auto c = static_cast<std::uint32_t>(text[i]);
+        if (c >= 0xD800 && (c <= 0xDFFF || c >= 0x10000))
+            return false;
+    }
+    return true;
+}
+
 template <typename U>
 U loadLittle(const std::uint8_t* in)
 {
@@ -208,16 +220,21 @@ Acad::ErrorStatus MemoryDwgFiler::putString(const ACHAR* text, std::size_t lengt
 {
     if (m_status != Acad::eOk)
         return m_status;
-    const std::u16string units = toUtf16(std::wstring_view(text != nullptr ? text : L"", length));
-    if (units.size() > std::numeric_limits<std::uint32_t>::max())
+    const std::wstring_view wide(text != nullptr ? text : L"", length);
+    // A text of the basic plane without surrogates, nearly every text, is its own code
+    // units: written straight from the characters. Others are converted first.
+    std::u16string converted;
+    const bool plain = isBasicPlaneText(wide.data(), wide.size());
+    if (!plain)
+        converted = toUtf16(wide);
+    const std::size_t count = plain ? wide.size() : converted.size();
+    if (count > std::numeric_limits<std::uint32_t>::max())
         return fail(Acad::eStringTooLong);
-    std::uint8_t* out = makeRoom(sizeof(std::uint32_t) + units.size() * kBytesPerCodeUnit);
-    storeLittle(out, static_cast<std::uint32_t>(units.size()));
+    std::uint8_t* out = makeRoom(sizeof(std::uint32_t) + count * kBytesPerCodeUnit);
+    storeLittle(out, static_cast<std::uint32_t>(count));
     out += sizeof(std::uint32_t);
-    for (char16_t unit : units) {
-        storeLittle(out, static_cast<std::uint16_t>(unit));
-        out += kBytesPerCodeUnit;
-    }
+    for (std::size_t i = 0; i < count; ++i, out += kBytesPerCodeUnit)
+        storeLittle(out, static_cast<std::uint16_t>(plain ? wide[i] : converted[i]));
     return Acad::eOk;
 }
 
@@ -229,12 +246,24 @@ Acad::ErrorStatus MemoryDwgFiler::takeString(std::wstring& text)
         return es;
     if (count > remaining() / kBytesPerCodeUnit)
         return fail(Acad::eEndOfFile);  // the length promises more than the data holds
-    std::u16string units(count, u'\0');
-    const std::uint8_t* unit = m_bytes.data() + m_position;
-    for (std::uint32_t i = 0; i < count; ++i, unit += kBytesPerCodeUnit)
-        units[i] = static_cast<char16_t>(loadLittle<std::uint16_t>(unit));
+    const std::uint8_t* first = m_bytes.data() + m_position;
     m_position += static_cast<std::size_t>(count) * kBytesPerCodeUnit;
-    text = fromUtf16(units);
+    // Units outside the surrogates are characters as they stand; a text with surrogates
+    // is decoded as a whole.
+    text.resize(count);
+    const std::uint8_t* unit = first;
+    for (std::uint32_t i = 0; i < count; ++i, unit += kBytesPerCodeUnit) {
+        const auto code = loadLittle<std::uint16_t>(unit);
+        if (code >= 0xD800 && code <= 0xDFFF) {
+            std::u16string units(count, u'\0');
+            unit = first;
+            for (std::uint32_t k = 0; k < count; ++k, unit += kBytesPerCodeUnit)
+                units[k] = static_cast<char16_t>(loadLittle<std::uint16_t>(unit));
+            text = fromUtf16(units);
+            return Acad::eOk;
+        }
+        text[i] = static_cast<wchar_t>(code);
+    }
     return Acad::eOk;
 }
 
