@@ -222,7 +222,6 @@ AcDbEntity* PlainBoundary(AcDbDatabase*, int i)
     return PlainPolyline(corners, 12, true);
 }
 
-
 // A roof sheet 750 wide and 6,000 long whose top end is cut to a shallow zigzag, so that
 // its outline has 4 to 40 vertices as i runs on; counterclockwise.
 void PanelOutline(int i, AcArray<AcGePoint2d>& points)
@@ -290,11 +289,14 @@ AcDbEntity* PlainPanel(AcDbDatabase*, int i)
 const std::vector<LayoutKind>& LayoutKinds()
 {
     static const std::vector<LayoutKind> kinds = {
-        {"division_line", DivisionLine, PlainSegment},      {"overlap_line", OverlapLine, PlainSegment},
-        {"structural_line", StructuralLine, PlainSegment},  {"circle_opening", CircleOpening, PlainCircle},
-        {"rect_opening", RectOpening, PlainRect},           {"poly_opening", PolyOpening, PlainPoly},
-        {"layout_boundary", LayoutBoundary, PlainBoundary},
-        {"panel", Panel, PlainPanel},
+        {"division_line", DivisionLine, PlainSegment},       // a straight node line, three blocks
+        {"overlap_line", OverlapLine, PlainSegment},         // a side lap, three blocks
+        {"structural_line", StructuralLine, PlainSegment},   // a purlin, three blocks
+        {"circle_opening", CircleOpening, PlainCircle},      // a pipe hole with its title
+        {"rect_opening", RectOpening, PlainRect},            // a roof light with its title
+        {"poly_opening", PolyOpening, PlainPoly},            // a pentagon with its title
+        {"layout_boundary", LayoutBoundary, PlainBoundary},  // a 12-vertex bay outline
+        {"panel", Panel, PlainPanel},                        // 4-40 vertices, a hole, labels, blocks
     };
     return kinds;
 }
