@@ -22,6 +22,8 @@ public:
     ~MemoryDwgFiler() override;
 
     const std::vector<std::uint8_t>& bytes() const { return m_bytes; }
+    // Hands the data over without a copy; the filer is then empty, at position 0.
+    std::vector<std::uint8_t> takeBytes();
     // Replaces the data, moves to its start and clears the status.
     void setBytes(std::vector<std::uint8_t> bytes);
     AcDbDatabase* database() const { return m_database; }
@@ -107,6 +109,8 @@ public:
 
 private:
     Acad::ErrorStatus put(const void* data, std::size_t count);
+    // Room for count bytes at the position (the data grows as needed), which moves past them.
+    std::uint8_t* makeRoom(std::size_t count);
     Acad::ErrorStatus take(void* data, std::size_t count);
     template <typename T>
     Acad::ErrorStatus putLittle(T value);

@@ -10,6 +10,7 @@
 #include "PlaneMath.h"
 #include "headless/HostError.h"
 #include "headless/RecordingWorldDraw.h"
+#include "poly/PolylineView.h"
 
 using headless::PrimitiveKind;
 using headless::RecordedPrimitive;
@@ -182,17 +183,16 @@ Adesk::Boolean RecordingGeometry::pline(const AcDbPolyline& lwBuf, Adesk::UInt32
     RecordedPrimitive prim;
     prim.kind = PrimitiveKind::kPline;
     prim.vectors = {transformNormal(xform, normal)};
+    // One view of the polyline for all its vertices: the vertex queries each build the
+    // plane's axes anew.
+    const hostpoly::PolylineView view(lwBuf);
+    const int count = view.numVerts();
+    prim.points.reserve(static_cast<std::size_t>(count));
+    prim.numbers.reserve(1 + 3 * static_cast<std::size_t>(count));
     prim.numbers = {0.0};
-    for (unsigned i = 0; i < lwBuf.numVerts(); ++i) {
-        AcGePoint3d point;
-        double bulge = 0.0;
-        double startWidth = 0.0;
-        double endWidth = 0.0;
-        lwBuf.getPointAt(i, point);
-        lwBuf.getBulgeAt(i, bulge);
-        lwBuf.getWidthsAt(i, startWidth, endWidth);
-        prim.points.push_back(transformed(xform, point));
-        prim.numbers.insert(prim.numbers.end(), {bulge, startWidth * scale, endWidth * scale});
+    for (int i = 0; i < count; ++i) {
+        prim.points.push_back(transformed(xform, view.worldPoint(i)));
+        prim.numbers.insert(prim.numbers.end(), {view.bulge(i), view.startWidth(i) * scale, view.endWidth(i) * scale});
     }
     prim.numbers[0] = prim.points.empty() ? lwBuf.elevation() : prim.points[0].asVector().dotProduct(prim.vectors[0]);
     prim.integers = {static_cast<Adesk::Int64>(fromIndex), static_cast<Adesk::Int64>(numSegs),

@@ -3,6 +3,7 @@
 
 #include <cstring>
 #include <iterator>
+#include <optional>
 
 #include "AcDbEntity.h"
 #include "DrawingFiler.h"
@@ -72,6 +73,16 @@ Adesk::UInt32 DrawingFileWriter::classIndexOf(const ClassRecord& cls)
     return index;
 }
 
+Adesk::UInt32 DrawingFileWriter::classIndexOf(const AcRxClass* cls)
+{
+    const auto it = m_runtimeClassIndex.find(cls);
+    if (it != m_runtimeClassIndex.end())
+        return it->second;
+    const Adesk::UInt32 index = classIndexOf(ClassRecord::of(cls));
+    m_runtimeClassIndex.emplace(cls, index);
+    return index;
+}
+
 // Custom entities keep the graphics they draw now, as the drawing's record of them for
 // hosts without their class; proxies keep what they were read with.
 Acad::ErrorStatus DrawingFileWriter::fileObject(const AcDbObject* obj, ObjectOut& out)
@@ -79,27 +90,26 @@ Acad::ErrorStatus DrawingFileWriter::fileObject(const AcDbObject* obj, ObjectOut
     const ProxyData* proxy = ProxyAccess::dataOf(obj);
     out.handle = obj->handle().value();
     out.owner = handleOf(obj->ownerId());
-    out.classIndex = classIndexOf(proxy != nullptr ? proxy->cls : ClassRecord::of(obj->isA()));
+    out.classIndex = proxy != nullptr ? classIndexOf(proxy->cls) : classIndexOf(obj->isA());
 
     DrawingFiler filer(m_db);
     const Acad::ErrorStatus es = obj->dwgOut(&filer);
     if (es != Acad::eOk)
         return es;
-    out.data = filer.bytes();
+    out.data = filer.takeBytes();
     out.references = filer.references();
 
     const AcDbEntity* entity = AcDbEntity::cast(obj);
-    std::vector<headless::RecordedPrimitive> drawn;
+    std::optional<headless::RecordingWorldDraw> draw;
     const std::vector<headless::RecordedPrimitive>* graphics = nullptr;
     if (proxy != nullptr && proxy->hasGraphics) {
         graphics = &proxy->graphics;
     } else if (proxy == nullptr && entity != nullptr && !HostClassSet::isHostClass(obj->isA())) {
-        headless::RecordingWorldDraw draw;
-        draw.setRegenType(kAcGiSaveWorldDrawForProxy);
-        draw.setDatabase(m_db);
-        draw.drawDrawable(const_cast<AcDbEntity*>(entity));
-        drawn = draw.primitives();
-        graphics = &drawn;
+        draw.emplace();
+        draw->setRegenType(kAcGiSaveWorldDrawForProxy);
+        draw->setDatabase(m_db);
+        draw->drawDrawable(const_cast<AcDbEntity*>(entity));
+        graphics = &draw->primitives();
     }
     if (graphics != nullptr) {
         headless::MemoryDwgFiler graphicsFiler(AcDb::kFileFiler, m_db);
@@ -107,7 +117,7 @@ Acad::ErrorStatus DrawingFileWriter::fileObject(const AcDbObject* obj, ObjectOut
         if (graphicsFiler.filerStatus() != Acad::eOk)
             return graphicsFiler.filerStatus();
         out.hasGraphics = true;
-        out.graphics = graphicsFiler.bytes();
+        out.graphics = graphicsFiler.takeBytes();
     }
     if (proxy != nullptr && proxy->hasTransform) {
         out.hasTransform = true;
@@ -116,15 +126,16 @@ Acad::ErrorStatus DrawingFileWriter::fileObject(const AcDbObject* obj, ObjectOut
     return Acad::eOk;
 }
 
-void DrawingFileWriter::frame(std::uint8_t kind, const std::vector<std::uint8_t>& payload)
+void DrawingFileWriter::frame(std::vector<std::uint8_t>& to, std::uint8_t kind,
+                              const std::vector<std::uint8_t>& payload)
 {
-    putLittle(m_out, kRecordMarker, 4);
-    const std::size_t checked = m_out.size();
-    m_out.push_back(kind);
-    putLittle(m_out, payload.size(), 4);
-    m_out.insert(m_out.end(), payload.begin(), payload.end());
-    const std::uint32_t crc = checksum(m_out.data() + checked, m_out.size() - checked);
-    putLittle(m_out, crc, 4);
+    putLittle(to, kRecordMarker, 4);
+    const std::size_t checked = to.size();
+    to.push_back(kind);
+    putLittle(to, payload.size(), 4);
+    to.insert(to.end(), payload.begin(), payload.end());
+    const std::uint32_t crc = checksum(to.data() + checked, to.size() - checked);
+    putLittle(to, crc, 4);
     ++m_frames;
 }
 
@@ -142,7 +153,7 @@ std::vector<std::uint8_t> DrawingFileWriter::databasePayload() const
     filer.writeDouble(m_db->celtscale());
     filer.writeDouble(m_db->ltscale());
     filer.writeInt16(static_cast<Adesk::Int16>(m_db->celweight()));
-    return filer.bytes();
+    return filer.takeBytes();
 }
 
 std::vector<std::uint8_t> DrawingFileWriter::objectPayload(const ObjectOut& object)
@@ -168,12 +179,15 @@ std::vector<std::uint8_t> DrawingFileWriter::objectPayload(const ObjectOut& obje
             for (int column = 0; column < 4; ++column)
                 filer.writeDouble(object.transform(row, column));
     }
-    return filer.bytes();
+    return filer.takeBytes();
 }
 
 Acad::ErrorStatus DrawingFileWriter::write(std::vector<std::uint8_t>& out)
 {
-    std::vector<ObjectOut> objects;
+    // Object records are framed as soon as they are filed; the class table they fill goes
+    // before them in the file.
+    std::vector<std::uint8_t> objectFrames;
+    std::uint32_t objectCount = 0;
     for (const AcDbObjectId& id : headless::DatabaseAccess::objectIds(m_db)) {
         if (!id.isResident() || id.isErased())
             continue;  // erased objects are not filed; references to them keep their handles
@@ -198,30 +212,30 @@ Acad::ErrorStatus DrawingFileWriter::write(std::vector<std::uint8_t>& out)
                        obj->isA() != nullptr ? obj->isA()->name() : L"?", acadErrorStatusText(es));
             return es;
         }
-        objects.push_back(std::move(object));
+        frame(objectFrames, kObjectRecord, objectPayload(object));
+        ++objectCount;
     }
 
     m_out.assign(std::begin(kMagic), std::end(kMagic));
     putLittle(m_out, kFormatMajor, 2);
     putLittle(m_out, kFormatMinor, 2);
-    const auto frameCount = static_cast<std::uint32_t>(1 + m_classes.size() + objects.size() + 1);
+    const auto frameCount = static_cast<std::uint32_t>(1 + m_classes.size() + objectCount + 1);
     putLittle(m_out, frameCount, 4);
     putLittle(m_out, m_db->handseed().value(), 8);
     putLittle(m_out, 0, 4);  // flags, none defined
     putLittle(m_out, checksum(m_out.data(), m_out.size()), 4);
 
-    frame(kDatabaseRecord, databasePayload());
+    frame(m_out, kDatabaseRecord, databasePayload());
     for (std::size_t i = 0; i < m_classes.size(); ++i) {
         headless::MemoryDwgFiler filer(AcDb::kFileFiler, nullptr);
         filer.writeUInt32(static_cast<Adesk::UInt32>(i));
         m_classes[i].writeTo(&filer);
-        frame(kClassRecord, filer.bytes());
+        frame(m_out, kClassRecord, filer.bytes());
     }
-    for (const ObjectOut& object : objects)
-        frame(kObjectRecord, objectPayload(object));
+    m_out.insert(m_out.end(), objectFrames.begin(), objectFrames.end());
     std::vector<std::uint8_t> end;
     putLittle(end, m_frames, 4);
-    frame(kEndRecord, end);
+    frame(m_out, kEndRecord, end);
     out.swap(m_out);
     return Acad::eOk;
 }

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <map>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "AcDbDatabase.h"
@@ -34,13 +35,16 @@ private:
 
     Acad::ErrorStatus fileObject(const AcDbObject* obj, ObjectOut& out);
     Adesk::UInt32 classIndexOf(const ClassRecord& cls);
-    void frame(std::uint8_t kind, const std::vector<std::uint8_t>& payload);
+    Adesk::UInt32 classIndexOf(const AcRxClass* cls);
+    // Appends a checksummed record to to.
+    void frame(std::vector<std::uint8_t>& to, std::uint8_t kind, const std::vector<std::uint8_t>& payload);
     std::vector<std::uint8_t> databasePayload() const;
     static std::vector<std::uint8_t> objectPayload(const ObjectOut& object);
 
     AcDbDatabase* m_db;
     std::vector<ClassRecord> m_classes;
     std::map<std::wstring, Adesk::UInt32> m_classIndex;
+    std::unordered_map<const AcRxClass*, Adesk::UInt32> m_runtimeClassIndex;  // the same, by runtime class
     std::vector<std::uint8_t> m_out;
     std::uint32_t m_frames = 0;
 };

@@ -6,6 +6,7 @@
 #include <cstring>
 #include <limits>
 #include <type_traits>
+#include <utility>
 
 #include "AcDbDatabase.h"
 #include "acutmem.h"
@@ -17,6 +18,37 @@ namespace {
 
 // A string is a 32-bit count of UTF-16 code units, each two bytes.
 constexpr std::size_t kBytesPerCodeUnit = 2;
+
+// Little-endian bytes of value at out, whatever the machine's byte order.
+template <typename U>
+void storeLittle(std::uint8_t* out, U value)
+{
+    for (std::size_t i = 0; i < sizeof(U); ++i) {
+        out[i] = static_cast<std::uint8_t>(value & 0xFF);
+        value = static_cast<U>(value >> 4 >> 4);
+    }
+}
+
+// Whether every character is of the basic plane and no surrogate: such a text is the same
+// code units in UTF-16.
+bool isBasicPlaneText(const wchar_t* text, std::size_t size)
+{
+    for (std::size_t i = 0; i < size; ++i) {
+        const auto c = static_cast<std::uint32_t>(text[i]);
+        if (c >= 0xD800 && (c <= 0xDFFF || c >= 0x10000))
+            return false;
+    }
+    return true;
+}
+
+template <typename U>
+U loadLittle(const std::uint8_t* in)
+{
+    U value = 0;
+    for (std::size_t i = sizeof(U); i-- > 0;)
+        value = static_cast<U>((value << 4 << 4) | in[i]);
+    return value;
+}
 
 }  // namespace
 
@@ -52,6 +84,12 @@ Acad::ErrorStatus MemoryDwgFiler::dwgVersion(AcDb::AcDbDwgVersion& version,
     return Acad::eOk;
 }
 
+std::vector<std::uint8_t> MemoryDwgFiler::takeBytes()
+{
+    m_position = 0;
+    return std::exchange(m_bytes, {});
+}
+
 Acad::ErrorStatus MemoryDwgFiler::fail(Acad::ErrorStatus status)
 {
     m_status = status;
@@ -64,12 +102,29 @@ Acad::ErrorStatus MemoryDwgFiler::put(const void* data, std::size_t count)
         return m_status;
     if (count == 0)
         return Acad::eOk;
+    const auto* first = static_cast<const std::uint8_t*>(data);
+    if (m_position == m_bytes.size()) {
+        // Appending, as a writer nearly always is: no zero fill before the copy.
+        m_bytes.insert(m_bytes.end(), first, first + count);
+        m_position = m_bytes.size();
+        return Acad::eOk;
+    }
     const std::size_t end = m_position + count;
     if (end > m_bytes.size())
         m_bytes.resize(end);
-    std::memcpy(m_bytes.data() + m_position, data, count);
+    std::memcpy(m_bytes.data() + m_position, first, count);
     m_position = end;
     return Acad::eOk;
+}
+
+std::uint8_t* MemoryDwgFiler::makeRoom(std::size_t count)
+{
+    const std::size_t end = m_position + count;
+    if (end > m_bytes.size())
+        m_bytes.resize(end);
+    std::uint8_t* at = m_bytes.data() + m_position;
+    m_position = end;
+    return at;
 }
 
 Acad::ErrorStatus MemoryDwgFiler::take(void* data, std::size_t count)
@@ -88,12 +143,8 @@ template <typename T>
 Acad::ErrorStatus MemoryDwgFiler::putLittle(T value)
 {
     using U = std::make_unsigned_t<T>;
-    U bits = static_cast<U>(value);
     std::uint8_t out[sizeof(T)];
-    for (std::size_t i = 0; i < sizeof(T); ++i) {
-        out[i] = static_cast<std::uint8_t>(bits & 0xFF);
-        bits = static_cast<U>(bits >> 4 >> 4);
-    }
+    storeLittle(out, static_cast<U>(value));
     return put(out, sizeof(T));
 }
 
@@ -105,22 +156,22 @@ Acad::ErrorStatus MemoryDwgFiler::takeLittle(T* value)
     const Acad::ErrorStatus es = take(in, sizeof(T));
     if (es != Acad::eOk)
         return es;
-    U bits = 0;
-    for (std::size_t i = sizeof(T); i-- > 0;)
-        bits = static_cast<U>((bits << 4 << 4) | in[i]);
     if (value != nullptr)
-        *value = static_cast<T>(bits);
+        *value = static_cast<T>(loadLittle<U>(in));
     return Acad::eOk;
 }
 
 Acad::ErrorStatus MemoryDwgFiler::putDoubles(const double* values, int count)
 {
-    for (int i = 0; i < count; ++i) {
+    if (m_status != Acad::eOk || count <= 0)
+        return m_status;
+    std::uint8_t* out = makeRoom(static_cast<std::size_t>(count) * sizeof(std::uint64_t));
+    for (int i = 0; i < count; ++i, out += sizeof(std::uint64_t)) {
         std::uint64_t bits;
         std::memcpy(&bits, &values[i], sizeof bits);
-        putLittle(bits);
+        storeLittle(out, bits);
     }
-    return m_status;
+    return Acad::eOk;
 }
 
 Acad::ErrorStatus MemoryDwgFiler::takeDoubles(double* values, int count)
@@ -129,12 +180,13 @@ Acad::ErrorStatus MemoryDwgFiler::takeDoubles(double* values, int count)
         return m_status;
     if (static_cast<std::size_t>(count) * sizeof(double) > remaining())
         return fail(Acad::eEndOfFile);  // a point is read whole or not at all
-    for (int i = 0; i < count; ++i) {
-        std::uint64_t bits = 0;
-        takeLittle(&bits);
+    const std::uint8_t* in = m_bytes.data() + m_position;
+    for (int i = 0; i < count; ++i, in += sizeof(std::uint64_t)) {
+        const auto bits = loadLittle<std::uint64_t>(in);
         std::memcpy(&values[i], &bits, sizeof bits);
     }
-    return m_status;
+    m_position += static_cast<std::size_t>(count) * sizeof(std::uint64_t);
+    return Acad::eOk;
 }
 
 Acad::ErrorStatus MemoryDwgFiler::putId(const AcDbObjectId& id)
@@ -168,13 +220,22 @@ Acad::ErrorStatus MemoryDwgFiler::putString(const ACHAR* text, std::size_t lengt
 {
     if (m_status != Acad::eOk)
         return m_status;
-    const std::u16string units = toUtf16(std::wstring_view(text != nullptr ? text : L"", length));
-    if (units.size() > std::numeric_limits<std::uint32_t>::max())
+    const std::wstring_view wide(text != nullptr ? text : L"", length);
+    // A text of the basic plane without surrogates, nearly every text, is its own code
+    // units: written straight from the characters. Others are converted first.
+    std::u16string converted;
+    const bool plain = isBasicPlaneText(wide.data(), wide.size());
+    if (!plain)
+        converted = toUtf16(wide);
+    const std::size_t count = plain ? wide.size() : converted.size();
+    if (count > std::numeric_limits<std::uint32_t>::max())
         return fail(Acad::eStringTooLong);
-    putLittle(static_cast<std::uint32_t>(units.size()));
-    for (char16_t unit : units)
-        putLittle(static_cast<std::uint16_t>(unit));
-    return m_status;
+    std::uint8_t* out = makeRoom(sizeof(std::uint32_t) + count * kBytesPerCodeUnit);
+    storeLittle(out, static_cast<std::uint32_t>(count));
+    out += sizeof(std::uint32_t);
+    for (std::size_t i = 0; i < count; ++i, out += kBytesPerCodeUnit)
+        storeLittle(out, static_cast<std::uint16_t>(plain ? wide[i] : converted[i]));
+    return Acad::eOk;
 }
 
 Acad::ErrorStatus MemoryDwgFiler::takeString(std::wstring& text)
@@ -185,13 +246,24 @@ Acad::ErrorStatus MemoryDwgFiler::takeString(std::wstring& text)
         return es;
     if (count > remaining() / kBytesPerCodeUnit)
         return fail(Acad::eEndOfFile);  // the length promises more than the data holds
-    std::u16string units(count, u'\0');
-    for (std::uint32_t i = 0; i < count; ++i) {
-        std::uint16_t unit = 0;
-        takeLittle(&unit);
-        units[i] = static_cast<char16_t>(unit);
+    const std::uint8_t* first = m_bytes.data() + m_position;
+    m_position += static_cast<std::size_t>(count) * kBytesPerCodeUnit;
+    // Units outside the surrogates are characters as they stand; a text with surrogates
+    // is decoded as a whole.
+    text.resize(count);
+    const std::uint8_t* unit = first;
+    for (std::uint32_t i = 0; i < count; ++i, unit += kBytesPerCodeUnit) {
+        const auto code = loadLittle<std::uint16_t>(unit);
+        if (code >= 0xD800 && code <= 0xDFFF) {
+            std::u16string units(count, u'\0');
+            unit = first;
+            for (std::uint32_t k = 0; k < count; ++k, unit += kBytesPerCodeUnit)
+                units[k] = static_cast<char16_t>(loadLittle<std::uint16_t>(unit));
+            text = fromUtf16(units);
+            return Acad::eOk;
+        }
+        text[i] = static_cast<wchar_t>(code);
     }
-    text = fromUtf16(units);
     return Acad::eOk;
 }
 

@@ -195,6 +195,43 @@ bool familyCrossings(const std::vector<HatchBoundary>& loops, const FamilyFrame&
     return true;
 }
 
+// Orders crossings as their operator< does (by line, then along, then loop). Line numbers
+// span little more than the crossings count, so the crossings are dealt to one bucket per
+// line and only each line's few crossings are compared.
+void sortCrossings(std::vector<Crossing>& crossings, std::vector<Crossing>& scratch, std::vector<size_t>& starts)
+{
+    constexpr size_t kSmall = 32;
+    if (crossings.size() <= kSmall) {
+        std::sort(crossings.begin(), crossings.end());
+        return;
+    }
+    const auto [lowest, highest] = std::minmax_element(
+        crossings.begin(), crossings.end(), [](const Crossing& a, const Crossing& b) { return a.line < b.line; });
+    const long long first = lowest->line;
+    const auto span = static_cast<unsigned long long>(highest->line - first) + 1;
+    if (span > 4 * crossings.size()) {
+        std::sort(crossings.begin(), crossings.end());
+        return;
+    }
+    starts.assign(span + 1, 0);
+    for (const Crossing& c : crossings)
+        ++starts[static_cast<size_t>(c.line - first) + 1];
+    for (size_t k = 1; k <= span; ++k)
+        starts[k] += starts[k - 1];
+    scratch.resize(crossings.size());
+    for (const Crossing& c : crossings)
+        scratch[starts[static_cast<size_t>(c.line - first)]++] = c;
+    // Each start now marks its bucket's end.
+    size_t begin = 0;
+    for (size_t k = 0; k < span; ++k) {
+        if (starts[k] - begin > 1)
+            std::sort(scratch.begin() + static_cast<std::ptrdiff_t>(begin),
+                      scratch.begin() + static_cast<std::ptrdiff_t>(starts[k]));
+        begin = starts[k];
+    }
+    crossings.swap(scratch);
+}
+
 std::vector<AcGePoint2d> polygonOf(const HatchBoundary& loop)
 {
     std::vector<AcGePoint2d> points;
@@ -355,6 +392,8 @@ Acad::ErrorStatus clipPatternLines(const std::vector<HatchBoundary>& loops, cons
         return Acad::eOutOfRange;
     };
     std::vector<Crossing> crossings;
+    std::vector<Crossing> sortScratch;
+    std::vector<size_t> bucketStarts;
     std::vector<char> inside(loops.size());
     for (const PatternLine& line : pattern) {
         double period = 0.0;
@@ -390,7 +429,7 @@ Acad::ErrorStatus clipPatternLines(const std::vector<HatchBoundary>& loops, cons
         crossings.clear();
         if (!familyCrossings(loops, family, budget, crossings))
             return refuse();
-        std::sort(crossings.begin(), crossings.end());
+        sortCrossings(crossings, sortScratch, bucketStarts);
         for (size_t start = 0; start < crossings.size();) {
             size_t end = start;
             while (end < crossings.size() && crossings[end].line == crossings[start].line)

@@ -122,8 +122,23 @@ std::wstring fromUtf8(std::string_view text)
     return out;
 }
 
+// Whether every unit is a character of the basic plane outside the surrogates, as nearly
+// every text is: such a text is the same units in UTF-16 and in wide characters.
+template <typename Unit>
+bool isPlainBasicPlane(const Unit* text, std::size_t size)
+{
+    for (std::size_t i = 0; i < size; ++i) {
+        const auto c = static_cast<char32_t>(text[i]);
+        if (c >= 0xD800 && (c <= 0xDFFF || c >= 0x10000))
+            return false;
+    }
+    return true;
+}
+
 std::u16string toUtf16(std::wstring_view text)
 {
+    if (isPlainBasicPlane(text.data(), text.size()))
+        return std::u16string(text.begin(), text.end());
     std::u16string out;
     out.reserve(text.size());
     for (std::size_t i = 0; i < text.size();) {
@@ -143,6 +158,8 @@ std::u16string toUtf16(std::wstring_view text)
 
 std::wstring fromUtf16(std::u16string_view text)
 {
+    if (isPlainBasicPlane(text.data(), text.size()))
+        return std::wstring(text.begin(), text.end());
     std::wstring out;
     out.reserve(text.size());
     for (std::size_t i = 0; i < text.size();)

@@ -1,0 +1,249 @@
+// The module's entities at layout scale, each kind against the plain host entity of the same
+// vertices, in the same run: save and open (entities per second, bytes per entity on file),
+// regen (world draw of every entity), list, deep clone of all, and heap bytes per entity.
+// Every kind of LayoutKinds() runs at 1,000, 10,000 and 100,000 entities, so the per-entity
+// figures show the curve; bench/layout-ratios.py turns the JSON output into ratios.
+#include <benchmark/benchmark.h>
+#include <malloc.h>
+
+#include <clocale>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "LayoutKinds.h"
+#include "app/ClassRegistration.h"
+#include "dbapserv.h"
+#include "dbidmap.h"
+#include "dbsymtb.h"
+#include "headless/CommandLine.h"
+#include "headless/DrawingFile.h"
+#include "headless/RecordingWorldDraw.h"
+#include "rxregsvc.h"
+
+namespace {
+
+using bench::LayoutKind;
+
+enum class Side { kCustom, kPlain };
+
+// The module's classes, once for the whole run.
+void RegisterOnce()
+{
+    static const bool registered = [] {
+        std::setlocale(LC_ALL, "C.UTF-8");
+        Quarvo::RegisterModuleClasses();
+        acrxBuildClassHierarchy();
+        acdbHostApplicationServices()->setWorkingDatabase(new AcDbDatabase());
+        headless::setCommandLineEcho(false);
+        return true;
+    }();
+    (void)registered;
+}
+
+AcDbObjectId ModelSpaceOf(AcDbDatabase* db)
+{
+    AcDbBlockTable* blocks = nullptr;
+    db->getBlockTable(blocks, AcDb::kForRead);
+    AcDbObjectId model;
+    blocks->getAt(ACDB_MODEL_SPACE, model);
+    blocks->close();
+    return model;
+}
+
+// The model space entities of db, in order.
+AcDbObjectIdArray EntitiesOf(AcDbDatabase* db)
+{
+    AcDbObjectIdArray ids;
+    AcDbBlockTableRecord* model = nullptr;
+    acdbOpenObject(model, ModelSpaceOf(db), AcDb::kForRead);
+    AcDbBlockTableRecordIterator* it = nullptr;
+    model->newIterator(it);
+    for (; !it->done(); it->step()) {
+        AcDbObjectId id;
+        it->getEntityId(id);
+        ids.append(id);
+    }
+    delete it;
+    model->close();
+    return ids;
+}
+
+// A drawing of count entities of kind (its module entity, or its plain counterpart).
+std::unique_ptr<AcDbDatabase> LayoutOf(const LayoutKind& kind, Side side, int count)
+{
+    auto db = std::make_unique<AcDbDatabase>();
+    AcDbBlockTableRecord* model = nullptr;
+    acdbOpenObject(model, ModelSpaceOf(db.get()), AcDb::kForWrite);
+    for (int i = 0; i < count; ++i) {
+        AcDbEntity* entity = side == Side::kCustom ? kind.makeCustom(db.get(), i) : kind.makePlain(db.get(), i);
+        model->appendAcDbEntity(entity);
+        entity->close();
+    }
+    model->close();
+    return db;
+}
+
+std::size_t FileSizeOf(AcDbDatabase* db)
+{
+    std::vector<std::uint8_t> bytes;
+    headless::DrawingFile::write(db, bytes);
+    return bytes.size();
+}
+
+void SetRate(benchmark::State& state, int count)
+{
+    state.counters["entities_per_second"] = benchmark::Counter(count, benchmark::Counter::kIsIterationInvariantRate);
+    state.counters["ns_per_entity"] =
+        benchmark::Counter(count * 1e-9, benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
+}
+
+void Save(benchmark::State& state, const LayoutKind& kind, Side side)
+{
+    RegisterOnce();
+    const int count = static_cast<int>(state.range(0));
+    const auto db = LayoutOf(kind, side, count);
+    const std::size_t emptyBytes = FileSizeOf(std::make_unique<AcDbDatabase>().get());
+    std::vector<std::uint8_t> bytes;
+    for (auto _ : state) {
+        if (headless::DrawingFile::write(db.get(), bytes) != Acad::eOk)
+            state.SkipWithError("the drawing could not be written");
+        benchmark::DoNotOptimize(bytes.data());
+    }
+    SetRate(state, count);
+    state.counters["bytes_per_entity"] = static_cast<double>(bytes.size() - emptyBytes) / count;
+}
+
+void Open(benchmark::State& state, const LayoutKind& kind, Side side)
+{
+    RegisterOnce();
+    const int count = static_cast<int>(state.range(0));
+    std::vector<std::uint8_t> bytes;
+    headless::DrawingFile::write(LayoutOf(kind, side, count).get(), bytes);
+    for (auto _ : state) {
+        AcDbDatabase* db = nullptr;
+        headless::DrawingReadReport report;
+        if (headless::DrawingFile::read(bytes, db, &report) != Acad::eOk || report.proxies != 0)
+            state.SkipWithError("the drawing did not open whole");
+        benchmark::DoNotOptimize(db);
+        state.PauseTiming();
+        delete db;
+        state.ResumeTiming();
+    }
+    SetRate(state, count);
+}
+
+void Regen(benchmark::State& state, const LayoutKind& kind, Side side)
+{
+    RegisterOnce();
+    const int count = static_cast<int>(state.range(0));
+    const auto db = LayoutOf(kind, side, count);
+    const AcDbObjectIdArray ids = EntitiesOf(db.get());
+    headless::RecordingWorldDraw draw;
+    draw.setDatabase(db.get());
+    std::size_t primitives = 0;
+    for (auto _ : state) {
+        draw.clear();
+        for (const AcDbObjectId& id : ids) {
+            AcDbEntity* entity = nullptr;
+            acdbOpenObject(entity, id, AcDb::kForRead);
+            draw.drawDrawable(entity);
+            entity->close();
+        }
+        primitives = draw.primitives().size();
+        benchmark::DoNotOptimize(primitives);
+    }
+    SetRate(state, count);
+    state.counters["primitives_per_entity"] = static_cast<double>(primitives) / count;
+}
+
+void List(benchmark::State& state, const LayoutKind& kind, Side side)
+{
+    RegisterOnce();
+    const int count = static_cast<int>(state.range(0));
+    const auto db = LayoutOf(kind, side, count);
+    const AcDbObjectIdArray ids = EntitiesOf(db.get());
+    headless::CommandLineCapture capture;
+    for (auto _ : state) {
+        capture.clear();
+        for (const AcDbObjectId& id : ids) {
+            AcDbEntity* entity = nullptr;
+            acdbOpenObject(entity, id, AcDb::kForRead);
+            entity->list();
+            entity->close();
+        }
+        benchmark::DoNotOptimize(capture.text().data());
+    }
+    SetRate(state, count);
+}
+
+void DeepClone(benchmark::State& state, const LayoutKind& kind, Side side)
+{
+    RegisterOnce();
+    const int count = static_cast<int>(state.range(0));
+    for (auto _ : state) {
+        state.PauseTiming();
+        auto db = LayoutOf(kind, side, count);
+        const AcDbObjectIdArray ids = EntitiesOf(db.get());
+        const AcDbObjectId model = ModelSpaceOf(db.get());
+        state.ResumeTiming();
+        AcDbIdMapping map;
+        if (db->deepCloneObjects(ids, model, map) != Acad::eOk)
+            state.SkipWithError("the entities could not be cloned");
+        state.PauseTiming();
+        db.reset();
+        state.ResumeTiming();
+    }
+    SetRate(state, count);
+}
+
+// Heap bytes that a drawing holds per entity beyond the empty drawing: the C library's
+// count of bytes in use, which every host and module allocation goes through.
+void Memory(benchmark::State& state, const LayoutKind& kind, Side side)
+{
+    RegisterOnce();
+    const int count = static_cast<int>(state.range(0));
+    double bytesPerEntity = 0.0;
+    for (auto _ : state) {
+        const auto empty = std::make_unique<AcDbDatabase>();
+        const std::size_t before = mallinfo2().uordblks;
+        auto db = LayoutOf(kind, side, count);
+        const std::size_t after = mallinfo2().uordblks;
+        bytesPerEntity = (static_cast<double>(after) - static_cast<double>(before)) / count;
+        benchmark::DoNotOptimize(db.get());
+    }
+    state.counters["heap_bytes_per_entity"] = bytesPerEntity;
+}
+
+using Operation = void (*)(benchmark::State&, const LayoutKind&, Side);
+
+struct NamedOperation {
+    const char* name;
+    Operation run;
+};
+
+const NamedOperation kOperations[] = {
+    {"save", Save}, {"open", Open}, {"regen", Regen}, {"list", List}, {"clone", DeepClone}, {"memory", Memory},
+};
+
+// Registers operation x kind x side at every layout size: names read
+// "layout/<operation>/<kind>/<custom|plain>/<count>".
+const bool g_registered = [] {
+    for (const NamedOperation& operation : kOperations) {
+        for (const LayoutKind& kind : bench::LayoutKinds()) {
+            for (const Side side : {Side::kCustom, Side::kPlain}) {
+                const std::string name = std::string("layout/") + operation.name + "/" + kind.name + "/" +
+                    (side == Side::kCustom ? "custom" : "plain");
+                auto* registered = benchmark::RegisterBenchmark(name.c_str(), operation.run, kind, side)
+                                       ->RangeMultiplier(10)
+                                       ->Range(1000, 100000)
+                                       ->Unit(benchmark::kMillisecond);
+                if (operation.run == Memory)
+                    registered->Iterations(1);
+            }
+        }
+    }
+    return true;
+}();
+
+}  // namespace

@@ -1,0 +1,54 @@
+#!/usr/bin/env python3
+"""Reads bench_layout's JSON output and prints, per kind and layout size, each module
+entity's figures and their ratio to the plain host entity of the same vertices, then the
+cost per entity across sizes (the curve: flat means linear)."""
+import json
+import re
+import sys
+from collections import defaultdict
+
+NAME = re.compile(r"layout/(\w+)/(\w+)/(custom|plain)/(\d+)")
+
+
+def main(path):
+    with open(path, encoding="utf-8") as f:
+        runs = json.load(f)["benchmarks"]
+    figures = defaultdict(dict)  # (operation, kind, count) -> side -> run
+    for run in runs:
+        match = NAME.match(run["name"])
+        if match and run.get("run_type", "iteration") == "iteration":
+            operation, kind, side, count = match.groups()
+            figures[(operation, kind, int(count))][side] = run
+
+    print("| operation | kind | entities | module entity | plain host entity | ratio |")
+    print("|---|---|---:|---:|---:|---:|")
+    for (operation, kind, count), sides in sorted(figures.items()):
+        if "custom" not in sides or "plain" not in sides:
+            continue
+        custom, plain = sides["custom"], sides["plain"]
+        if operation == "memory":
+            c, p = custom["heap_bytes_per_entity"], plain["heap_bytes_per_entity"]
+            print(f"| memory | {kind} | {count} | {c:,.0f} B | {p:,.0f} B | {c / p:.1f}x |")
+            continue
+        c, p = custom["entities_per_second"], plain["entities_per_second"]
+        print(f"| {operation} | {kind} | {count} | {c:,.0f}/s | {p:,.0f}/s | {p / c:.1f}x slower |")
+        if operation == "save":
+            cb, pb = custom["bytes_per_entity"], plain["bytes_per_entity"]
+            print(f"| bytes on file | {kind} | {count} | {cb:,.0f} B | {pb:,.0f} B | {cb / pb:.1f}x |")
+
+    print()
+    print("Nanoseconds per module entity by layout size (flat: linear in the entity count)")
+    print()
+    counts = sorted({count for (_, _, count) in figures})
+    print("| operation | kind | " + " | ".join(f"{c:,}" for c in counts) + " |")
+    print("|---|---|" + "---:|" * len(counts))
+    for operation, kind in sorted({(o, k) for (o, k, _) in figures if o != "memory"}):
+        cells = []
+        for count in counts:
+            run = figures.get((operation, kind, count), {}).get("custom")
+            cells.append(f"{1e9 / run['entities_per_second']:,.0f}" if run else "")
+        print(f"| {operation} | {kind} | " + " | ".join(cells) + " |")
+
+
+if __name__ == "__main__":
+    main(sys.argv[1] if len(sys.argv) > 1 else "out/bench-layout.json")
