@@ -6,6 +6,7 @@
 #include "geometry/QxPolylineBasedCurve.h"
 #include "lines/AecDivisionLine.h"
 #include "lines/AecOverlapLine.h"
+#include "lines/AecSteelMember.h"
 #include "lines/AecStructuralLine.h"
 #include "openings/AecCircleOpening.h"
 #include "openings/AecLayoutBoundary.h"
@@ -44,7 +45,8 @@ const std::vector<ClassEntry>& RegistrationTable()
         Entry<AecDivisionLine>(L"AecDivisionLine"),            // step 4
         Entry<AecOverlapLine>(L"AecOverlapLine"),              // step 5
         Entry<AecStructuralLine>(L"AecStructuralLine"),        // step 6
-        // Steps 7-8: the steel member and the flashing line.
+        Entry<AecSteelMember>(L"AecSteelMember"),              // step 7
+        // Step 8: the flashing line.
         Entry<AecLayoutBoundary>(L"AecLayoutBoundary"),                   // step 9
         Entry<AecRectOpeningUnits::OpeningGripData>(L"OpeningGripData"),  // step 10
         Entry<AecRectOpening>(L"AecRectOpening"),                         // step 11
@@ -65,7 +67,8 @@ const std::vector<ClassEntry>& TearDownTable()
         Entry<AecDivisionLine>(L"AecDivisionLine"),                       // 5th
         Entry<AecOverlapLine>(L"AecOverlapLine"),                         // 6th
         Entry<AecStructuralLine>(L"AecStructuralLine"),                   // 7th
-        // AecSteelMember, AecShouBianLine.
+        Entry<AecSteelMember>(L"AecSteelMember"),                         // 8th
+        // AecShouBianLine.
         Entry<QxPolylineBasedCurve>(L"QxPolylineBasedCurve"),  // 10th
         Entry<AecPolyOpening>(L"AecPolyOpening"),              // 11th
         Entry<AecCircleOpening>(L"AecCircleOpening"),          // 12th

@@ -10,6 +10,7 @@
 
 #include "lines/AecDivisionLine.h"
 #include "lines/AecOverlapLine.h"
+#include "lines/AecSteelMember.h"
 #include "lines/AecStructuralLine.h"
 #include "openings/AecCircleOpening.h"
 #include "openings/AecLayoutBoundary.h"
@@ -107,6 +108,26 @@ struct ConformanceCase<AecPanelLite> {
     {
         panel->SetPatScale(60.0);
         panel->AddVertex(AcGePoint3d(3000, -100, 0));
+    }
+};
+
+template <>
+struct ConformanceCase<AecSteelMember> {
+    using HostBase = AcDbCurve;
+    static AecSteelMember* MakeSample()
+    {
+        auto* member = new AecSteelMember();
+        member->SetPoints(AcGePoint3d(500, 300, 0), AcGePoint3d(6500, 1800, 0));
+        member->SetWidths(120, 80);
+        member->SetKind(kSteelColumn);
+        member->SetDisplayOptions(static_cast<SteelMemberDisplayOptions>(kSteelDisplayAxis | kSteelDisplayOutline |
+                                                                         kSteelDisplaySectionCross));
+        return member;
+    }
+    static void Edit(AecSteelMember* member)
+    {
+        member->SetEndPoint(AcGePoint3d(7000, 2000, 0));
+        member->SetCenteredWidth(300);
     }
 };
 
@@ -283,5 +304,6 @@ struct ConformanceCase<AecLayoutBoundary> {
     }
 };
 
-using ConformanceTypes = ::testing::Types<AecPanel, AecPanelLite, AecCircleOpening, AecDivisionLine, AecOverlapLine,
-                                          AecStructuralLine, AecRectOpening, AecPolyOpening, AecLayoutBoundary>;
+using ConformanceTypes =
+    ::testing::Types<AecPanel, AecPanelLite, AecCircleOpening, AecDivisionLine, AecOverlapLine, AecStructuralLine,
+                     AecSteelMember, AecRectOpening, AecPolyOpening, AecLayoutBoundary>;

@@ -88,15 +88,18 @@ TEST(NewCommandTest, LinesAndOpeningsListWhatTheirDescriptionsSaid)
   "rectOpenings": [{"layer": "QX-洞口", "anchor": {"x": 100, "y": 200}, "anchorPosition": "center",
                     "width": 1200, "height": 800, "showDimensions": true, "title": {"text": "风机洞口"}}],
   "polyOpenings": [{"layer": "QX-洞口", "vertices": [{"x": 0, "y": 0}, {"x": 1000, "y": 0}, {"x": 500, "y": 800}],
-                    "closed": false, "title": {"text": "异形窗 T1", "visible": false}}]
+                    "closed": false, "title": {"text": "异形窗 T1", "visible": false}}],
+  "steelMembers": [{"start": {"x": 0, "y": 3000}, "end": {"x": 9000, "y": 3000}, "kind": "column",
+                    "widthLeft": 150, "widthRight": 90}]
 })";
     qxtest::TempFolder folder;
     qxtest::WriteFile(folder / "layout.json", layout);
     const auto built = RunQuarvo({"new", folder / "layout.json", "-o", folder / "layout.qxd"});
     ASSERT_EQ(built.exitCode, 0) << built.err;
-    EXPECT_EQ(built.out,
-              "Built 4 entities (overlapLines 1, polyOpenings 1, rectOpenings 1, structuralLines 1) into " +
-                  (folder / "layout.qxd") + "\n");
+    EXPECT_EQ(
+        built.out,
+        "Built 5 entities (overlapLines 1, polyOpenings 1, rectOpenings 1, steelMembers 1, structuralLines 1) into " +
+            (folder / "layout.qxd") + "\n");
 
     const struct {
         const char* type;
@@ -115,6 +118,9 @@ TEST(NewCommandTest, LinesAndOpeningsListWhatTheirDescriptionsSaid)
         {"QX_RECT_OPENING", {"锚点: 中心，位置: (100.00, 200.00, 0.00)", "标题: 显示，\"风机洞口\"", "尺寸标注: 开启"}},
         // Open: three vertices make two segments.
         {"QX_POLY_OPENING", {"异形洞口: 3 个顶点，2 个分段，未闭合", "标题: 隐藏，\"异形窗 T1\""}},
+        {"QX_STEEL_MEMBER",
+         {"  类型: 钢柱", "  终点: (9000.000, 3000.000, 0.000)", "  构件宽度: 240.000", "  左侧宽度: 150.000",
+          "  右侧宽度: 90.000"}},
     };
     for (const auto& kind : kinds) {
         const auto listed = RunQuarvo({"list", folder / "layout.qxd", "--type", kind.type});
@@ -362,6 +368,13 @@ TEST(NewCommandTest, RefusesEveryBadDescriptionByItsPathAndWritesNothing)
         {Layout(R"("litePanels": [{"loops": [[{"x": 0, "y": 0}, {"x": 9, "y": 0}, {"x": 0, "y": 9}]],
                    "pattern": {"scale": 0}}])"),
          "litePanels[0].pattern.scale: must be greater than 0"},
+        {Layout(R"("steelMembers": [{"start": {"x": 0, "y": 0}, "end": {"x": 0, "y": 0}}])"),
+         "steelMembers[0]: a steel member needs two different ends"},
+        {Layout(R"("steelMembers": [{"start": {"x": 0, "y": 0}, "end": {"x": 9, "y": 0}, "widthLeft": 2500}])"),
+         "steelMembers[0].widthLeft: must be 1 to 2000"},
+        {Layout(R"("steelMembers": [{"start": {"x": 0, "y": 0}, "end": {"x": 9, "y": 0}, "width": 300,
+                     "widthRight": 20}])"),
+         "steelMembers[0]: give \"width\" or \"widthLeft\" and \"widthRight\", not both"},
         {Layout(R"("name": )" + std::string(70, '[') + std::string(70, ']')),
          "the layout: nested deeper than 64 levels"},
     };
@@ -383,7 +396,6 @@ TEST(NewCommandTest, RefusesKindsTheModuleDoesNotHaveYet)
 {
     const std::vector<std::pair<std::string, std::string>> kinds = {
         {R"("flashingLines": [{}])", "flashingLines[0]"},
-        {R"("steelMembers": [{}])", "steelMembers[0]"},
     };
     qxtest::TempFolder folder;
     for (const auto& [members, path] : kinds) {
@@ -395,7 +407,7 @@ TEST(NewCommandTest, RefusesKindsTheModuleDoesNotHaveYet)
         EXPECT_FALSE(qxtest::FileExists(folder / "kind.qxd"));
     }
     // An empty array of such a kind asks for nothing.
-    qxtest::WriteFile(folder / "empty.json", Layout(Line("") + R"(, "steelMembers": [])"));
+    qxtest::WriteFile(folder / "empty.json", Layout(Line("") + R"(, "flashingLines": [])"));
     EXPECT_EQ(RunQuarvo({"new", folder / "empty.json", "-o", folder / "empty.qxd"}).exitCode, 0);
 }
 

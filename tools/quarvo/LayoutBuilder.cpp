@@ -11,6 +11,7 @@
 #include "PanelBuilder.h"
 #include "PolyOpeningBuilder.h"
 #include "RectOpeningBuilder.h"
+#include "SteelMemberBuilder.h"
 #include "StructuralLineBuilder.h"
 #include "Progress.h"
 
@@ -28,7 +29,7 @@ const std::vector<LayoutKind>& LayoutBuilder::Kinds()
         {"overlapLines", &BuildOverlapLine},
         {"structuralLines", &BuildStructuralLine},
         {"flashingLines", nullptr},
-        {"steelMembers", nullptr},
+        {"steelMembers", &BuildSteelMember},
         {"circleOpenings", &BuildCircleOpening},
         {"rectOpenings", &BuildRectOpening},
         {"polyOpenings", &BuildPolyOpening},
