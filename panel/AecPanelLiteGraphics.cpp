@@ -16,35 +16,40 @@ bool IsEdgeMarker(AcDb::SubentType type)
 
 }  // namespace
 
+// Both paths hand on the same pieces with the same properties: the panel's, and the
+// pattern's own colour for the hatch when it has one.
 bool AecPanelLite::DrawOrExplode(AcGiWorldDraw* worldDraw, AcArray<void*>& entitySet) const
 {
+    if (worldDraw != nullptr && worldDraw->regenAbort())
+        return false;
     AcArray<AcDbPolyline*> polylines = CreatePolys();
-    std::unique_ptr<AcDbHatch> hatch(CreateHatch());
+    for (AcDbPolyline* polyline : polylines)
+        polyline->setPropertiesFrom(this);
+    std::unique_ptr<AcDbHatch> hatch;
+    if (!m_patternName.isEmpty()) {
+        hatch.reset(CreateHatch());
+        hatch->setPropertiesFrom(this);
+        if (m_colour != 0)
+            hatch->setColorIndex(static_cast<Adesk::UInt16>(m_colour));
+        if (hatch->numLoops() == 0)
+            hatch.reset();
+    }
     if (worldDraw == nullptr) {
-        for (AcDbPolyline* polyline : polylines) {
-            polyline->setPropertiesFrom(this);
+        for (AcDbPolyline* polyline : polylines)
             entitySet.append(polyline);
-        }
-        polylines.setLogicalLength(0);
-        if (!m_patternName.isEmpty() && hatch->numLoops() > 0) {
-            const Adesk::UInt16 colour = hatch->colorIndex();
-            hatch->setPropertiesFrom(this);
-            if (m_colour != 0)
-                hatch->setColorIndex(colour);
+        if (hatch != nullptr)
             entitySet.append(hatch.release());
-        }
         return true;
     }
     bool complete = true;
     for (int i = 0; i < polylines.length() && complete; ++i) {
-        if (worldDraw->regenAbort()) {
-            complete = false;
-            break;
+        complete = !worldDraw->regenAbort();
+        if (complete) {
+            worldDraw->subEntityTraits().setSelectionMarker(i + 1);
+            worldDraw->geometry().draw(polylines[i]);
         }
-        worldDraw->subEntityTraits().setSelectionMarker(i + 1);
-        worldDraw->geometry().draw(polylines[i]);
     }
-    if (complete && !worldDraw->regenAbort() && !m_patternName.isEmpty() && hatch->numLoops() > 0) {
+    if (complete && hatch != nullptr && !worldDraw->regenAbort()) {
         worldDraw->subEntityTraits().setSelectionMarker(polylines.length() + 1);
         worldDraw->geometry().draw(hatch.get());
     }

@@ -279,15 +279,19 @@ TEST(AecPanelLiteTest, DrawingAndExplodeShowTheSameLoopsAndHatch)
         std::unique_ptr<AecPanelLite> made = SquareWithHole();
         if (!named)
             made->SetOutlineAndPattern(AcDbHatch::kPreDefined, L"", 1.0, 0.0, 0, 0.0);
+        made->setColorIndex(5);
         const AcDbObjectId id = working.Add(made.release());
         AecPanelLite* panel = nullptr;
         ASSERT_EQ(acdbOpenObject(panel, id, AcDb::kForRead), Acad::eOk);
 
         const auto drawn = qxtest::Draw(panel);
         std::vector<Adesk::LongPtr> markers;
-        for (const headless::RecordedPrimitive& p : drawn)
+        for (const headless::RecordedPrimitive& p : drawn) {
             if (markers.empty() || markers.back() != p.traits.selectionMarker)
                 markers.push_back(p.traits.selectionMarker);
+            // The outlines in the panel's colour, the hatch in the pattern's.
+            EXPECT_EQ(p.traits.color, p.traits.selectionMarker == 3 ? 3 : 5);
+        }
         const std::vector<Adesk::LongPtr> expected =
             named ? std::vector<Adesk::LongPtr>{1, 2, 3} : std::vector<Adesk::LongPtr>{1, 2};
         EXPECT_EQ(markers, expected);
@@ -308,6 +312,7 @@ TEST(AecPanelLiteTest, DrawingAndExplodeShowTheSameLoopsAndHatch)
                 EXPECT_EQ(piece->colorIndex(), 3);
             } else {
                 ASSERT_NE(AcDbPolyline::cast(piece.get()), nullptr);
+                EXPECT_EQ(piece->colorIndex(), 5);
             }
         }
         EXPECT_TRUE(qxtest::SamePrimitives(redrawn, drawn, 1e-9));
