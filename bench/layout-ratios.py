@@ -20,7 +20,7 @@ def main(path):
             operation, kind, side, count = match.groups()
             figures[(operation, kind, int(count))][side] = run
 
-    print("| operation | kind | entities | module entity | plain host entity | ratio |")
+    print("| operation | kind | entities | module entity | plain host entity | module / plain |")
     print("|---|---|---:|---:|---:|---:|")
     for (operation, kind, count), sides in sorted(figures.items()):
         if "custom" not in sides or "plain" not in sides:
@@ -31,7 +31,7 @@ def main(path):
             print(f"| memory | {kind} | {count} | {c:,.0f} B | {p:,.0f} B | {c / p:.1f}x |")
             continue
         c, p = custom["entities_per_second"], plain["entities_per_second"]
-        print(f"| {operation} | {kind} | {count} | {c:,.0f}/s | {p:,.0f}/s | {p / c:.1f}x slower |")
+        print(f"| {operation} | {kind} | {count} | {c:,.0f}/s | {p:,.0f}/s | {p / c:.1f}x the time |")
         if operation == "save":
             cb, pb = custom["bytes_per_entity"], plain["bytes_per_entity"]
             print(f"| bytes on file | {kind} | {count} | {cb:,.0f} B | {pb:,.0f} B | {cb / pb:.1f}x |")
