@@ -6,6 +6,7 @@
 #include <benchmark/benchmark.h>
 #include <malloc.h>
 
+#include <algorithm>
 #include <clocale>
 #include <memory>
 #include <string>
@@ -19,6 +20,8 @@
 #include "headless/CommandLine.h"
 #include "headless/DrawingFile.h"
 #include "headless/RecordingWorldDraw.h"
+#include "headless/TextCodec.h"
+#include "panel/AecPanel.h"
 #include "rxregsvc.h"
 
 namespace {
@@ -214,6 +217,37 @@ void Memory(benchmark::State& state, const LayoutKind& kind, Side side)
     }
     state.counters["heap_bytes_per_entity"] = bytesPerEntity;
 }
+
+// Parsing a panel's information blocks into their typed forms, as every command that reads
+// a panel's data does: blocks per second and UTF-8 bytes of JSON per second.
+void BM_ParsePanelBlocks(benchmark::State& state)
+{
+    RegisterOnce();
+    const auto kind = std::find_if(bench::LayoutKinds().begin(), bench::LayoutKinds().end(),
+                                   [](const LayoutKind& k) { return std::string(k.name) == "panel"; });
+    const auto db = std::make_unique<AcDbDatabase>();
+    std::unique_ptr<AcDbEntity> entity(kind->makeCustom(db.get(), 17));
+    const auto* panel = AecPanel::cast(entity.get());
+    std::size_t jsonBytes = 0;
+    for (const wchar_t* text : {panel->GetPanelBasicInfoJsonStr(), panel->GetNumberingAndEncodingInfoJsonStr(),
+                                panel->GetPanelMergeInfoJsonStr(), panel->GetHatchPatternInfoJsonStr()})
+        jsonBytes += headless::toUtf8(text).size();
+    for (auto _ : state) {
+        DbxPanel::PanelBasicInfo basic;
+        DbxPanel::NumberingAndEncodingInfo numbering;
+        DbxPanel::PanelMergeInfo merge;
+        DbxPanel::HatchPatternInfo hatch;
+        const bool parsed = panel->GetPanelBasicInfo(basic) && panel->GetNumberingAndEncodingInfo(numbering) &&
+            panel->GetPanelMergeInfo(merge) && panel->GetHatchPatternInfo(hatch);
+        if (!parsed)
+            state.SkipWithError("a block did not parse");
+        benchmark::DoNotOptimize(basic);
+    }
+    state.counters["panels_per_second"] = benchmark::Counter(1, benchmark::Counter::kIsIterationInvariantRate);
+    state.counters["json_bytes_per_second"] =
+        benchmark::Counter(static_cast<double>(jsonBytes), benchmark::Counter::kIsIterationInvariantRate);
+}
+BENCHMARK(BM_ParsePanelBlocks)->Name("layout/parse_blocks/panel");
 
 using Operation = void (*)(benchmark::State&, const LayoutKind&, Side);
 

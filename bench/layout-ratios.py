@@ -20,7 +20,9 @@ def main(path):
             operation, kind, side, count = match.groups()
             figures[(operation, kind, int(count))][side] = run
 
-    print("| operation | kind | entities | module entity | plain host entity | ratio |")
+    summary(figures)
+    print()
+    print("| operation | kind | entities | module entity | plain host entity | module / plain |")
     print("|---|---|---:|---:|---:|---:|")
     for (operation, kind, count), sides in sorted(figures.items()):
         if "custom" not in sides or "plain" not in sides:
@@ -31,7 +33,7 @@ def main(path):
             print(f"| memory | {kind} | {count} | {c:,.0f} B | {p:,.0f} B | {c / p:.1f}x |")
             continue
         c, p = custom["entities_per_second"], plain["entities_per_second"]
-        print(f"| {operation} | {kind} | {count} | {c:,.0f}/s | {p:,.0f}/s | {p / c:.1f}x slower |")
+        print(f"| {operation} | {kind} | {count} | {c:,.0f}/s | {p:,.0f}/s | {p / c:.1f}x the time |")
         if operation == "save":
             cb, pb = custom["bytes_per_entity"], plain["bytes_per_entity"]
             print(f"| bytes on file | {kind} | {count} | {cb:,.0f} B | {pb:,.0f} B | {cb / pb:.1f}x |")
@@ -48,6 +50,37 @@ def main(path):
             run = figures.get((operation, kind, count), {}).get("custom")
             cells.append(f"{1e9 / run['entities_per_second']:,.0f}" if run else "")
         print(f"| {operation} | {kind} | " + " | ".join(cells) + " |")
+
+
+def summary(figures):
+    """At the largest layout: one row an operation, one column a kind, each cell the time
+    ratio to the plain host entity and the module entity's rate."""
+    largest = max(count for (_, _, count) in figures)
+    kinds = sorted({kind for (_, kind, _) in figures})
+    print(f"At {largest:,} entities: module entity against plain host entity of the same vertices")
+    print()
+    print("| operation | " + " | ".join(kinds) + " |")
+    print("|---|" + "---|" * len(kinds))
+    for operation, label in [("save", "save"), ("open", "open"), ("regen", "regen (world draw of all)"),
+                             ("list", "list"), ("clone", "deep clone of all"), ("bytes", "bytes on file"),
+                             ("memory", "heap bytes")]:
+        cells = []
+        for kind in kinds:
+            sides = figures.get(("save" if operation == "bytes" else operation, kind, largest), {})
+            if "custom" not in sides or "plain" not in sides:
+                cells.append("")
+                continue
+            custom, plain = sides["custom"], sides["plain"]
+            if operation == "bytes":
+                c, p = custom["bytes_per_entity"], plain["bytes_per_entity"]
+                cells.append(f"{c / p:.1f}x ({c:,.0f} B)")
+            elif operation == "memory":
+                c, p = custom["heap_bytes_per_entity"], plain["heap_bytes_per_entity"]
+                cells.append(f"{c / p:.1f}x ({c:,.0f} B)")
+            else:
+                c, p = custom["entities_per_second"], plain["entities_per_second"]
+                cells.append(f"{p / c:.1f}x ({c / 1000:,.0f}k/s)")
+        print(f"| {label} | " + " | ".join(cells) + " |")
 
 
 if __name__ == "__main__":

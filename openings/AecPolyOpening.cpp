@@ -3,6 +3,7 @@
 // the data tree, which carries the whole record.
 #include "AecPolyOpening.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "AcApDMgr.h"
@@ -114,9 +115,22 @@ void AecPolyOpening::Update()
 bool AecPolyOpening::GetInnerReferencePoint(AcGePoint3d& point) const
 {
     assertReadEnabled();
-    AcGePoint2d inner;
-    if (!PolygonInnerPoint::Find(PolygonInnerPoint::Flatten(*this), inner))
+    std::vector<AcGePoint2d> outline = PolygonInnerPoint::Flatten(*this);
+    // The same outline to the last bit has the same point (coordinates that are not
+    // numbers never compare equal, so they are searched again).
+    const auto sameAsMemo = [&outline](const InnerPointMemo& memo) {
+        return std::equal(outline.begin(), outline.end(), memo.outline.begin(), memo.outline.end(),
+                          [](const AcGePoint2d& a, const AcGePoint2d& b) { return a.x == b.x && a.y == b.y; });
+    };
+    if (m_innerPointMemo == nullptr || !sameAsMemo(*m_innerPointMemo)) {
+        auto memo = std::make_unique<InnerPointMemo>();
+        memo->found = PolygonInnerPoint::Find(outline, memo->inner);
+        memo->outline = std::move(outline);
+        m_innerPointMemo = std::move(memo);
+    }
+    if (!m_innerPointMemo->found)
         return false;
+    const AcGePoint2d& inner = m_innerPointMemo->inner;
     point = OutlineToWorld() * AcGePoint3d(inner.x, inner.y, elevation());
     return true;
 }

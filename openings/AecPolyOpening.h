@@ -5,6 +5,7 @@
 #pragma once
 
 #include <memory>
+#include <vector>
 
 #include "PolyOpeningData.h"
 #include "data/DataNodeRoot.h"
@@ -61,4 +62,13 @@ private:
     AcGeMatrix3d OutlineToWorld() const;
 
     std::unique_ptr<PolyOpeningData> m_data;
+
+    // The outline last searched for its inner point and what the search found: every
+    // regen asks for the point, and the search costs far more than the drawing.
+    struct InnerPointMemo {
+        std::vector<AcGePoint2d> outline;
+        bool found = false;
+        AcGePoint2d inner;
+    };
+    mutable std::unique_ptr<InnerPointMemo> m_innerPointMemo;
 };
