@@ -6,6 +6,7 @@
 #include "geometry/QxPolylineBasedCurve.h"
 #include "lines/AecDivisionLine.h"
 #include "lines/AecOverlapLine.h"
+#include "lines/AecShouBianLine.h"
 #include "lines/AecSteelMember.h"
 #include "lines/AecStructuralLine.h"
 #include "openings/AecCircleOpening.h"
@@ -39,14 +40,14 @@ ClassEntry Entry(const ACHAR* name)
 const std::vector<ClassEntry>& RegistrationTable()
 {
     static const std::vector<ClassEntry> table = {
-        Entry<AecPanel>(L"AecPanel"),                          // step 1
-        Entry<AecPanelLite>(L"AecPanelLite"),                  // step 2
-        Entry<QxPolylineBasedCurve>(L"QxPolylineBasedCurve"),  // step 3
-        Entry<AecDivisionLine>(L"AecDivisionLine"),            // step 4
-        Entry<AecOverlapLine>(L"AecOverlapLine"),              // step 5
-        Entry<AecStructuralLine>(L"AecStructuralLine"),        // step 6
-        Entry<AecSteelMember>(L"AecSteelMember"),              // step 7
-        // Step 8: the flashing line.
+        Entry<AecPanel>(L"AecPanel"),                                     // step 1
+        Entry<AecPanelLite>(L"AecPanelLite"),                             // step 2
+        Entry<QxPolylineBasedCurve>(L"QxPolylineBasedCurve"),             // step 3
+        Entry<AecDivisionLine>(L"AecDivisionLine"),                       // step 4
+        Entry<AecOverlapLine>(L"AecOverlapLine"),                         // step 5
+        Entry<AecStructuralLine>(L"AecStructuralLine"),                   // step 6
+        Entry<AecSteelMember>(L"AecSteelMember"),                         // step 7
+        Entry<AecShouBianLine>(L"AecShouBianLine"),                       // step 8
         Entry<AecLayoutBoundary>(L"AecLayoutBoundary"),                   // step 9
         Entry<AecRectOpeningUnits::OpeningGripData>(L"OpeningGripData"),  // step 10
         Entry<AecRectOpening>(L"AecRectOpening"),                         // step 11
@@ -68,11 +69,11 @@ const std::vector<ClassEntry>& TearDownTable()
         Entry<AecOverlapLine>(L"AecOverlapLine"),                         // 6th
         Entry<AecStructuralLine>(L"AecStructuralLine"),                   // 7th
         Entry<AecSteelMember>(L"AecSteelMember"),                         // 8th
-        // AecShouBianLine.
-        Entry<QxPolylineBasedCurve>(L"QxPolylineBasedCurve"),  // 10th
-        Entry<AecPolyOpening>(L"AecPolyOpening"),              // 11th
-        Entry<AecCircleOpening>(L"AecCircleOpening"),          // 12th
-        Entry<AecLayoutBoundary>(L"AecLayoutBoundary"),        // 13th
+        Entry<AecShouBianLine>(L"AecShouBianLine"),                       // 9th
+        Entry<QxPolylineBasedCurve>(L"QxPolylineBasedCurve"),             // 10th
+        Entry<AecPolyOpening>(L"AecPolyOpening"),                         // 11th
+        Entry<AecCircleOpening>(L"AecCircleOpening"),                     // 12th
+        Entry<AecLayoutBoundary>(L"AecLayoutBoundary"),                   // 13th
     };
     return table;
 }

@@ -55,6 +55,7 @@ const ModuleClass kModuleClasses[] = {
     {L"AecDivisionLine", L"QxPolylineBasedCurve", L"QX_DIVISION_LINE", 33, 327, 895, true, 4, 5},
     {L"AecOverlapLine", L"QxPolylineBasedCurve", L"QX_OVERLAP_LINE", 33, 327, 895, true, 5, 6},
     {L"AecStructuralLine", L"QxPolylineBasedCurve", L"QX_STRUCTURAL_LINE", 33, 327, 895, true, 6, 7},
+    {L"AecShouBianLine", L"QxPolylineBasedCurve", L"QX_SHOU_BIAN_LINE", 33, 327, 895, true, 8, 9},
     {L"AecSteelMember", L"QxPolylineBasedCurve", L"QX_STEEL_MEMBER", 33, 327, 895, true, 7, 8},
     {L"AecLayoutBoundary", L"AcDbPolyline", L"QX_LAYOUT_BOUNDARY", 33, 327, 895, true, 9, 13},
     {L"OpeningGripData", L"AcDbObject", nullptr, 0, 0, 0, false, 10, 4},

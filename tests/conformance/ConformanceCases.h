@@ -10,6 +10,7 @@
 
 #include "lines/AecDivisionLine.h"
 #include "lines/AecOverlapLine.h"
+#include "lines/AecShouBianLine.h"
 #include "lines/AecSteelMember.h"
 #include "lines/AecStructuralLine.h"
 #include "openings/AecCircleOpening.h"
@@ -128,6 +129,30 @@ struct ConformanceCase<AecSteelMember> {
     {
         member->SetEndPoint(AcGePoint3d(7000, 2000, 0));
         member->SetCenteredWidth(300);
+    }
+};
+
+template <>
+struct ConformanceCase<AecShouBianLine> {
+    using HostBase = AcDbCurve;
+    // A ridge flashing over three vertices, the second segment an arc, with its band and
+    // label shown.
+    static AecShouBianLine* MakeSample()
+    {
+        auto* line = new AecShouBianLine();
+        line->AppendVertex(AcGePoint3d(0, 12000, 0), 0.0);
+        line->AppendVertex(AcGePoint3d(6000, 12000, 0), 0.15);
+        line->AppendVertex(AcGePoint3d(12000, 12500, 0), 0.0);
+        line->SetIndentLeft(120);
+        line->SetIndentRight(80);
+        line->SetDrawOptions(static_cast<ShouBianDrawOptions>(CenterLine | BoundaryLine | TextLabel));
+        line->SetShouBianJsonStr(L"{\"baseInfo\":{\"shouBianNumber\":\"SB-03\",\"shouBianName\":\"屋脊盖板\"}}");
+        return line;
+    }
+    static void Edit(AecShouBianLine* line)
+    {
+        line->SetVertexAt(2, AcGePoint3d(12500, 12600, 0));
+        line->SetIndentRight(150);
     }
 };
 
@@ -306,4 +331,4 @@ struct ConformanceCase<AecLayoutBoundary> {
 
 using ConformanceTypes =
     ::testing::Types<AecPanel, AecPanelLite, AecCircleOpening, AecDivisionLine, AecOverlapLine, AecStructuralLine,
-                     AecSteelMember, AecRectOpening, AecPolyOpening, AecLayoutBoundary>;
+                     AecSteelMember, AecShouBianLine, AecRectOpening, AecPolyOpening, AecLayoutBoundary>;

@@ -90,16 +90,20 @@ TEST(NewCommandTest, LinesAndOpeningsListWhatTheirDescriptionsSaid)
   "polyOpenings": [{"layer": "QX-洞口", "vertices": [{"x": 0, "y": 0}, {"x": 1000, "y": 0}, {"x": 500, "y": 800}],
                     "closed": false, "title": {"text": "异形窗 T1", "visible": false}}],
   "steelMembers": [{"start": {"x": 0, "y": 3000}, "end": {"x": 9000, "y": 3000}, "kind": "column",
-                    "widthLeft": 150, "widthRight": 90}]
+                    "widthLeft": 150, "widthRight": 90}],
+  "flashingLines": [{"vertices": [{"x": 0, "y": 12000}, {"x": 6000, "y": 12500, "bulge": 0.1}, {"x": 12000, "y": 12000}],
+                     "indentLeft": 100, "indentRight": 80, "standalone": false, "label": {"height": 300},
+                     "drawOptions": ["centerLine", "boundaryLine", "textLabel"],
+                     "shouBianInfo": {"baseInfo": {"shouBianNumber": "SB-03", "shouBianName": "屋脊盖板"}}}]
 })";
     qxtest::TempFolder folder;
     qxtest::WriteFile(folder / "layout.json", layout);
     const auto built = RunQuarvo({"new", folder / "layout.json", "-o", folder / "layout.qxd"});
     ASSERT_EQ(built.exitCode, 0) << built.err;
-    EXPECT_EQ(
-        built.out,
-        "Built 5 entities (overlapLines 1, polyOpenings 1, rectOpenings 1, steelMembers 1, structuralLines 1) into " +
-            (folder / "layout.qxd") + "\n");
+    EXPECT_EQ(built.out,
+              "Built 6 entities (flashingLines 1, overlapLines 1, polyOpenings 1, rectOpenings 1, steelMembers 1, "
+              "structuralLines 1) into " +
+                  (folder / "layout.qxd") + "\n");
 
     const struct {
         const char* type;
@@ -375,6 +379,10 @@ TEST(NewCommandTest, RefusesEveryBadDescriptionByItsPathAndWritesNothing)
         {Layout(R"("steelMembers": [{"start": {"x": 0, "y": 0}, "end": {"x": 9, "y": 0}, "width": 300,
                      "widthRight": 20}])"),
          "steelMembers[0]: give \"width\" or \"widthLeft\" and \"widthRight\", not both"},
+        {Layout(R"("flashingLines": [{"vertices": [{"x": 0, "y": 0}, {"x": 9, "y": 0}], "indentLeft": 0.5}])"),
+         "flashingLines[0].indentLeft: must be 0, or 1 to 500"},
+        {Layout(R"("flashingLines": [{"vertices": [{"x": 0, "y": 0}, {"x": 9, "y": 0}, {"x": 9, "y": 0}]}])"),
+         "flashingLines[0].vertices[2]: repeats the vertex before it"},
         {Layout(R"("name": )" + std::string(70, '[') + std::string(70, ']')),
          "the layout: nested deeper than 64 levels"},
     };
@@ -392,23 +400,23 @@ TEST(NewCommandTest, RefusesEveryBadDescriptionByItsPathAndWritesNothing)
     }
 }
 
-TEST(NewCommandTest, RefusesKindsTheModuleDoesNotHaveYet)
+// The example roof of examples/ uses every kind of the format: it builds whole, and the
+// drawing checks clean.
+TEST(NewCommandTest, TheExampleRoofBuildsEveryKindAndChecksClean)
 {
-    const std::vector<std::pair<std::string, std::string>> kinds = {
-        {R"("flashingLines": [{}])", "flashingLines[0]"},
-    };
     qxtest::TempFolder folder;
-    for (const auto& [members, path] : kinds) {
-        SCOPED_TRACE(members);
-        qxtest::WriteFile(folder / "kind.json", Layout(Line("") + ", " + members));
-        const auto run = RunQuarvo({"new", folder / "kind.json", "-o", folder / "kind.qxd"});
-        EXPECT_EQ(run.exitCode, 2);
-        EXPECT_EQ(run.err, "quarvo: " + path + ": entity kind not available in this build\n");
-        EXPECT_FALSE(qxtest::FileExists(folder / "kind.qxd"));
-    }
-    // An empty array of such a kind asks for nothing.
-    qxtest::WriteFile(folder / "empty.json", Layout(Line("") + R"(, "flashingLines": [])"));
-    EXPECT_EQ(RunQuarvo({"new", folder / "empty.json", "-o", folder / "empty.qxd"}).exitCode, 0);
+    const std::string drawing = folder / "roof.qxd";
+    const auto built = RunQuarvo({"new", std::string(QX_EXAMPLES_DIR) + "/roof-layout.json", "-o", drawing});
+    ASSERT_EQ(built.exitCode, 0) << built.err;
+    // 96 south columns of two sheets and 94 north sheets; 24 purlins, 9 rafters, 5 flashings.
+    EXPECT_EQ(built.out,
+              "Built 345 entities (boundary 1, circleOpenings 4, divisionLines 2, flashingLines 5, "
+              "litePanels 8, overlapLines 1, panels 286, polyOpenings 1, rectOpenings 4, steelMembers 9, "
+              "structuralLines 24) into " +
+                  drawing + "\n");
+    const auto checked = RunQuarvo({"check", drawing});
+    EXPECT_EQ(checked.exitCode, 0) << checked.out;
+    EXPECT_EQ(checked.out, "Clean: 345 entities checked.\n");
 }
 
 TEST(NewCommandTest, UnreadableFilesAndBadArgumentsEndWithOneLine)

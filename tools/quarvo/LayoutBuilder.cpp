@@ -11,6 +11,7 @@
 #include "PanelBuilder.h"
 #include "PolyOpeningBuilder.h"
 #include "RectOpeningBuilder.h"
+#include "ShouBianLineBuilder.h"
 #include "SteelMemberBuilder.h"
 #include "StructuralLineBuilder.h"
 #include "Progress.h"
@@ -22,16 +23,11 @@ const std::vector<LayoutKind>& LayoutBuilder::Kinds()
     // Outline first, then what lies on it, then what cuts through it; a builder joins here
     // as its entity joins the module.
     static const std::vector<LayoutKind> kinds = {
-        {"boundary", &BuildLayoutBoundary},
-        {"panels", &BuildPanel},
-        {"litePanels", &BuildLitePanel},
-        {"divisionLines", &BuildDivisionLine},
-        {"overlapLines", &BuildOverlapLine},
-        {"structuralLines", &BuildStructuralLine},
-        {"flashingLines", nullptr},
-        {"steelMembers", &BuildSteelMember},
-        {"circleOpenings", &BuildCircleOpening},
-        {"rectOpenings", &BuildRectOpening},
+        {"boundary", &BuildLayoutBoundary},      {"panels", &BuildPanel},
+        {"litePanels", &BuildLitePanel},         {"divisionLines", &BuildDivisionLine},
+        {"overlapLines", &BuildOverlapLine},     {"structuralLines", &BuildStructuralLine},
+        {"flashingLines", &BuildShouBianLine},   {"steelMembers", &BuildSteelMember},
+        {"circleOpenings", &BuildCircleOpening}, {"rectOpenings", &BuildRectOpening},
         {"polyOpenings", &BuildPolyOpening},
     };
     return kinds;
