@@ -139,7 +139,7 @@ def panels():
 def lite_panels():
     # The canopy over the south door: plain sheets without information blocks.
     return [{"layer": "QX-板材", "loops": [rectangle(30000 + i * 750, -3000, 30750 + i * 750, -200)],
-             "pattern": {"type": 1, "name": "ANSI31", "scale": 30, "angle": 0, "color": 8}} for i in range(8)]
+             "pattern": {"type": 1, "name": "ANSI31", "scale": 1600, "angle": 0.7853981633974483, "color": 8}} for i in range(8)]
 
 
 def layout():

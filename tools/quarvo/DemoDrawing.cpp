@@ -2,7 +2,7 @@
 // cut along the arced eave and around the openings they carry, with the division lines
 // between its panel zones (straight and arced), the side laps between its sheets, the
 // purlins that carry them, three round roof-light openings, a rectangular hatch opening
-// with its dimensions and an L-shaped opening.
+// with its dimensions, an L-shaped opening, the gable flashings and a rafter.
 #include "DemoDrawing.h"
 
 #include <cmath>
@@ -13,6 +13,8 @@
 #include "geometry/EntityCreation.h"
 #include "lines/AecDivisionLine.h"
 #include "lines/AecOverlapLine.h"
+#include "lines/AecShouBianLine.h"
+#include "lines/AecSteelMember.h"
 #include "lines/AecStructuralLine.h"
 #include "openings/AecCircleOpening.h"
 #include "openings/AecLayoutBoundary.h"
@@ -337,6 +339,44 @@ void AddPanels(AcDbDatabase* db)
     }
 }
 
+// The gable flashings up both sides of the bay, labelled from their information.
+void AddGableFlashing(AcDbDatabase* db, double x, const ACHAR* number)
+{
+    auto* line = new AecShouBianLine();
+    line->setDatabaseDefaults(db);
+    line->setLayer(L"QX-收边线");
+    const bool east = x > 0.0;
+    // Drawn up the west gable and down the east one, so that the band's left lies outside.
+    line->AppendVertex(AcGePoint3d(x, east ? Eave::Y(x) : 0.0, 0));
+    line->AppendVertex(AcGePoint3d(x, east ? 0.0 : Eave::Y(x), 0));
+    line->SetIndentLeft(150);
+    line->SetIndentRight(100);
+    line->SetLineLayerName(L"QX-收边线");
+    line->SetTextLayerName(L"QX-收边线");
+    line->SetDrawOptions(static_cast<ShouBianDrawOptions>(CenterLine | BoundaryLine | TextLabel));
+    DbxPanel::TextLabel label;
+    label.SetTextHeight(250);
+    line->SetTextLabelAt(0, label);
+    AcString json;
+    json.format(L"{\"baseInfo\":{\"shouBianNumber\":\"%s\",\"shouBianName\":\"山墙包角\"},"
+                L"\"规格\":\"0.5 镀铝锌 展开 350\"}",
+                number);
+    line->SetShouBianJsonStr(json.kwszPtr());
+    Append(db, line);
+}
+
+// The rafter under the middle of the bay.
+void AddRafter(AcDbDatabase* db)
+{
+    auto* member = new AecSteelMember();
+    member->setDatabaseDefaults(db);
+    member->setLayer(L"QX-钢构件");
+    member->SetPoints(AcGePoint3d(12000, 0, 0), AcGePoint3d(12000, 12000, 0));
+    member->SetCenteredWidth(300);
+    member->SetKind(kSteelBeam);
+    Append(db, member);
+}
+
 }  // namespace
 
 void BuildDemoDrawing(AcDbDatabase* db)
@@ -350,6 +390,7 @@ void BuildDemoDrawing(AcDbDatabase* db)
     AddLayer(db, L"QX-收边线", 30);
     AddLayer(db, L"QX-布置轮廓", 6);
     AddLayer(db, L"QX-板材", 3);
+    AddLayer(db, L"QX-钢构件", 8);
     const AcDbObjectId dimStyle = AddDimensionStyle(db);
 
     AddBoundary(db);
@@ -372,6 +413,9 @@ void BuildDemoDrawing(AcDbDatabase* db)
     AddOpening(db, AcGePoint3d(20000, 7500, 0), 300, L"管道孔 D600");
     AddRectOpening(db, dimStyle);
     AddLShapedOpening(db);
+    AddGableFlashing(db, 0.0, L"SB-01");
+    AddGableFlashing(db, 24000.0, L"SB-02");
+    AddRafter(db);
 }
 
 }  // namespace quarvo
