@@ -3,6 +3,8 @@
 
 #include "BuildStamp.h"
 #include "ClassRegistration.h"
+#include "DeepCloneReactor.h"
+#include "DocReactor.h"
 #include "acutads.h"
 #include "panel/AecPanel.h"
 #include "panel/LinkageChangeCollector.h"
@@ -12,6 +14,8 @@ AcRx::AppRetCode AecDbxApp::On_kInitAppMsg(void* pkt)
     const AcRx::AppRetCode result = AcRxArxApp::On_kInitAppMsg(pkt);
     Quarvo::RegisterModuleClasses();
     acrxBuildClassHierarchy();
+    DocReactor::Install();
+    DeepCloneReactor::Install();
     const AcString stamp = Quarvo::ModuleBuildStamp();
     acutPrintf(L"\n[Release] Quarvo loaded! \tBuild time: %s", stamp.kwszPtr());
     return result;
@@ -19,6 +23,8 @@ AcRx::AppRetCode AecDbxApp::On_kInitAppMsg(void* pkt)
 
 AcRx::AppRetCode AecDbxApp::On_kUnloadAppMsg(void* pkt)
 {
+    DocReactor::Remove();
+    DeepCloneReactor::Remove();
     Quarvo::UnregisterModuleClasses();
     // The collector and the hidden panels belong to this load of the module.
     DbxPanel::LinkageChangeCollector::DestroyInstance();

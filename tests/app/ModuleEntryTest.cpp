@@ -2,6 +2,9 @@
 // order, and prints the load message; unloading deletes them in the tear-down order.
 #include <gtest/gtest.h>
 
+#include "app/DeepCloneReactor.h"
+#include "app/DocReactor.h"
+
 #include <map>
 #include <memory>
 
@@ -106,6 +109,8 @@ TEST(ModuleEntryTest, LoadRegistersTheClassesInOrderAndUnloadDeletesThemInTearDo
     for (const ModuleClass& row : kModuleClasses)
         ExpectRegisteredAsListed(row);
     EXPECT_TRUE(IsLoadMessage(capture.text())) << capture.utf8();
+    EXPECT_TRUE(DocReactor::IsInstalled());
+    EXPECT_TRUE(DeepCloneReactor::IsInstalled());
 
     // A second initialisation finds every class registered and changes nothing.
     std::vector<const AcRxClass*> before;
@@ -120,6 +125,16 @@ TEST(ModuleEntryTest, LoadRegistersTheClassesInOrderAndUnloadDeletesThemInTearDo
     EXPECT_EQ(journal.deleted(), NamesInOrderOf(&ModuleClass::tearDownStep));
     for (const ModuleClass& row : kModuleClasses)
         EXPECT_EQ(acrxFindAcRxClass(row.name), nullptr) << headless::toUtf8(row.name);
+    EXPECT_FALSE(DocReactor::IsInstalled());
+    EXPECT_FALSE(DeepCloneReactor::IsInstalled());
+
+    // Loaded again, it registers and installs everything once more.
+    headless::RegistryJournal again;
+    ASSERT_TRUE(acrxDynamicLinker->loadModule(kModule, false));
+    EXPECT_EQ(again.created(), NamesInOrderOf(&ModuleClass::registrationStep));
+    EXPECT_TRUE(DocReactor::IsInstalled());
+    EXPECT_TRUE(DeepCloneReactor::IsInstalled());
+    ASSERT_TRUE(acrxDynamicLinker->unloadModule(kModule, false));
 }
 
 TEST(ModuleEntryTest, AModuleClassRegistersOnceAndRefusesAnImpostor)

@@ -52,4 +52,32 @@ TEST(CopyCommandTest, CopiesListLikeTheirOriginalsUnderNewHandles)
     EXPECT_EQ(table.err, "quarvo: object 1 is not an entity\n");
 }
 
+// Copying one panel of a two-panel merge group dissolves the copy's group, with one alert.
+TEST(CopyCommandTest, CopyingPartOfAMergeGroupAlertsOnce)
+{
+    qxtest::TempFolder folder;
+    const std::string drawing = folder / "group.qxd";
+    qxtest::WriteFile(folder / "group.json", R"({"format": "quarvo-layout", "version": 1, "panels": [
+      {"loops": [[{"x": 0, "y": 0}, {"x": 750, "y": 0}, {"x": 750, "y": 6000}, {"x": 0, "y": 6000}]],
+       "mergeInfo": {"direction": 1, "sequenceNumber": 1, "relatedPanels": [1]}},
+      {"loops": [[{"x": 0, "y": 5800}, {"x": 750, "y": 5800}, {"x": 750, "y": 9000}, {"x": 0, "y": 9000}]],
+       "mergeInfo": {"direction": 1, "sequenceNumber": 2, "relatedPanels": [0]}}]})");
+    ASSERT_EQ(RunQuarvo({"new", folder / "group.json", "-o", drawing}).exitCode, 0);
+    const std::vector<std::string> handles = qxtest::HandlesIn(RunQuarvo({"list", drawing}).out);
+    ASSERT_EQ(handles.size(), 2u);
+
+    const auto part = RunQuarvo({"copy", drawing, "--handles", handles[0], "-o", folder / "part.qxd"});
+    ASSERT_EQ(part.exitCode, 0) << part.err;
+    const std::string alert = "[alert] 检测到合并板或转角板未完整复制,已将本次复制出的相关板材转为普通直板。\n"
+                              "请完整框选同一合并组/转角组后再复制。";
+    std::size_t alerts = 0;
+    for (std::size_t at = part.out.find(alert); at != std::string::npos; at = part.out.find(alert, at + 1))
+        ++alerts;
+    EXPECT_EQ(alerts, 1u) << part.out;
+
+    const auto whole = RunQuarvo({"copy", drawing, "--handles", handles[0], handles[1], "-o", folder / "whole.qxd"});
+    ASSERT_EQ(whole.exitCode, 0) << whole.err;
+    EXPECT_EQ(whole.out.find("[alert]"), std::string::npos) << whole.out;
+}
+
 }  // namespace
