@@ -2,6 +2,8 @@
 // python3): the file audits without errors and holds what the entities drew.
 #include <gtest/gtest.h>
 
+#include <cstdio>
+
 #include <rapidjson/document.h>
 
 #include <map>
@@ -98,6 +100,40 @@ TEST_F(ExportDxfTest, AnIndependentReaderFindsWhatTheEntitiesDrew)
         EXPECT_EQ(bulge.GetDouble(), 0.0);
     ASSERT_EQ(bulges[1].Size(), 2u);
     EXPECT_DOUBLE_EQ(bulges[1][0].GetDouble(), -0.5);
+}
+
+// The example roof, every kind of entity: the independent reader audits the file without
+// errors and counts what the exporter says it wrote; the Chinese texts come through.
+TEST_F(ExportDxfTest, TheExampleRoofExportsWhatAnIndependentReaderCounts)
+{
+    const std::string drawing = folder / "roof.qxd";
+    ASSERT_EQ(RunQuarvo({"new", std::string(QX_EXAMPLES_DIR) + "/roof-layout.json", "-o", drawing}).exitCode, 0);
+    const auto exported = RunQuarvo({"export-dxf", drawing, "-o", folder / "roof.dxf"});
+    ASSERT_EQ(exported.exitCode, 0) << exported.err;
+    std::map<std::string, int> said;
+    for (const std::string& line : qxtest::Lines(exported.out)) {
+        char type[32] = {};
+        int count = 0;
+        if (line.rfind("  ", 0) == 0 && std::sscanf(line.c_str(), " %31s %d", type, &count) == 2)
+            said[type] = count;
+    }
+    ASSERT_FALSE(said.empty()) << exported.out;
+
+    const auto read = qxtest::RunProgram(kPython, {QUARVO_DXF_READER, folder / "roof.dxf"});
+    ASSERT_EQ(read.exitCode, 0) << read.err;
+    rapidjson::Document found;
+    found.Parse(read.out.c_str());
+    ASSERT_TRUE(found.IsObject());
+    EXPECT_EQ(found["errors"].Size(), 0u);
+    std::map<std::string, int> counts;
+    for (const auto& count : found["counts"].GetObject())
+        counts[count.name.GetString()] = count.value.GetInt();
+    EXPECT_EQ(counts, said);
+    std::set<std::string> texts;
+    for (const auto& text : found["texts"].GetArray())
+        texts.insert(text.GetString());
+    for (const char* text : {"S-01-1", "SB-03 屋脊盖板", "梁宽 300", "管道孔 D300"})
+        EXPECT_EQ(texts.count(text), 1u) << text;
 }
 
 TEST_F(ExportDxfTest, AnUnwritableFileEndsWithOneLine)
