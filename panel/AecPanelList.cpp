@@ -19,9 +19,9 @@ const wchar_t* Parsed(bool value)
     return value ? L"成功" : L"失败";
 }
 
-const wchar_t* OrEmpty(const AcString& text, const wchar_t* placeholder)
+const wchar_t* OrEmpty(const AcString& text, const wchar_t* shownWhenEmpty)
 {
-    return text.isEmpty() ? placeholder : text.kwszPtr();
+    return text.isEmpty() ? shownWhenEmpty : text.kwszPtr();
 }
 
 const wchar_t* LengthAnchorName(int mode)
