@@ -4,7 +4,9 @@
 // moves the outline only along the laying direction.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <memory>
 
 #include "ModuleTestSupport.h"
@@ -163,6 +165,34 @@ TEST(PanelBehaviourTest, ADragDrawsTheLoopsOnly)
     ASSERT_EQ(draw.primitives().size(), 1u);
     EXPECT_EQ(draw.primitives()[0].kind, PrimitiveKind::kPolyline);
     EXPECT_EQ(draw.primitives()[0].points.size(), 5u);  // closed by repeating the first
+}
+
+// A loop of one vertex can only come from a file: cut the round hole of the rich panel
+// (two vertices, the first at (7900, 375)) down to its first vertex.
+TEST(PanelBehaviourTest, ALoopOfOneVertexIsNotDrawnWhileDragging)
+{
+    std::unique_ptr<AecPanel> panel(paneltest::RichPanel());
+    qxtest::Bytes bytes = qxtest::FileOut(panel.get());
+    const double x = 7900.0;
+    std::uint8_t pattern[4 + 36 + 8] = {2};  // the count 2, an empty reserved record, then x
+    std::memcpy(pattern + 40, &x, sizeof x);
+    const auto at = std::search(bytes.begin(), bytes.end(), std::begin(pattern), std::end(pattern));
+    ASSERT_NE(at, bytes.end());
+    *at = 1;
+    // One vertex is its reserved record, its point and its bulge.
+    const auto second = at + 4 + 36 + 16 + 8;
+    bytes.erase(second, second + 36 + 16 + 8);
+    AecPanel read;
+    ASSERT_EQ(qxtest::FileIn(&read, bytes), Acad::eOk);
+    ASSERT_EQ(read.GetLoopPointCountAt(2), 1);
+
+    headless::RecordingWorldDraw draw;
+    draw.setDragging(true);
+    draw.drawDrawable(&read);
+    // The outline (with its arc) and the square hole; nothing for the one vertex.
+    ASSERT_EQ(draw.primitives().size(), 2u);
+    EXPECT_EQ(draw.primitives()[0].kind, PrimitiveKind::kPline);
+    EXPECT_EQ(draw.primitives()[1].kind, PrimitiveKind::kPolyline);
 }
 
 // ---- copies
