@@ -4,6 +4,14 @@ if(QX_SANITIZE)
     add_link_options(-fsanitize=address,undefined)
 endif()
 
+# Under libFuzzer every library under test carries the coverage instrumentation, so that the
+# fuzzer sees the branches of the host and the module, not only those of the fuzz programs.
+option(QX_LIBFUZZER "Build fuzz targets with libFuzzer (clang only)" OFF)
+if(QX_LIBFUZZER)
+    add_compile_options(-fsanitize=fuzzer-no-link)
+    add_link_options(-fsanitize=fuzzer-no-link)
+endif()
+
 function(qx_set_compile_options target)
     target_compile_options(${target} PRIVATE -Wall -Wextra)
     if(QX_WERROR)
