@@ -5,32 +5,14 @@
 #include <memory>
 #include <vector>
 
-#include "AcDbDatabase.h"
 #include "headless/CommandLine.h"
 #include "headless/DrawingFile.h"
 #include "headless/SvgPlot.h"
-
-namespace {
-
-// The host keeps the stubs of dead ids in a quarantine (of 65,536) before reusing them, so
-// until it is full every run leaves a few stubs behind. libFuzzer sees more allocations
-// than frees in such a run and scans the whole heap for leaks after it, which cost nine
-// tenths of the time. One database with more ids than the quarantine holds fills it once.
-void FillIdQuarantine()
-{
-    constexpr Adesk::UInt64 kIds = 70000;
-    auto db = std::make_unique<AcDbDatabase>(false, true);
-    for (Adesk::UInt64 handle = 1; handle <= kIds; ++handle) {
-        AcDbObjectId id;
-        db->getAcDbObjectId(id, true, AcDbHandle(handle));
-    }
-}
-
-}  // namespace
+#include "support/FuzzDrawing.h"
 
 extern "C" int LLVMFuzzerInitialize(int*, char***)
 {
-    FillIdQuarantine();
+    fuzzing::FillIdQuarantine();
     return 0;
 }
 
