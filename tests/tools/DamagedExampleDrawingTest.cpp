@@ -5,7 +5,11 @@
 // that opens again without a complaint.
 #include <gtest/gtest.h>
 
+#include <csignal>
 #include <cstdint>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <memory>
 #include <random>
 #include <string>
@@ -15,6 +19,10 @@
 #include "ModuleTestSupport.h"
 #include "headless/CommandLine.h"
 #include "headless/DrawingFile.h"
+#include "headless/TextCodec.h"
+
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace {
 
@@ -72,6 +80,12 @@ Opened Open(const Bytes& bytes)
     opened.db.reset(db);
     opened.messages = capture.utf8();
     return opened;
+}
+
+Bytes ReadFile(const std::filesystem::path& path)
+{
+    std::ifstream in(path, std::ios::binary);
+    return Bytes((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
 }
 
 bool HasObject(AcDbDatabase* db, std::uint64_t handle)
@@ -191,6 +205,45 @@ TEST_F(DamagedExampleDrawingTest, ThousandsOfFlippedBytesOpenWithAMessageOrFailC
         if (flip % 8 == 0)
             ExpectSavesSound(opened.db.get());
     }
+}
+
+TEST_F(DamagedExampleDrawingTest, ASaveKilledAtAnyMomentLeavesTheOldFileOrTheNewOne)
+{
+    const std::filesystem::path folder = std::filesystem::temp_directory_path() /
+                                         ("qx-interrupted-save-" + std::to_string(static_cast<long>(getpid())));
+    std::filesystem::create_directories(folder);
+    const std::filesystem::path file = folder / "roof.qxd";
+    {
+        AcDbDatabase empty;
+        ASSERT_EQ(headless::DrawingFile::save(&empty, headless::fromUtf8(file.string())), Acad::eOk);
+    }
+    const Bytes old = ReadFile(file);
+    const Opened example = Open(*sound);
+    ASSERT_EQ(example.status, Acad::eOk);
+    int replaced = 0;
+    for (int delay = 0; delay < 400000; delay = delay * 3 / 2 + 50) {
+        const pid_t child = fork();
+        ASSERT_GE(child, 0);
+        if (child == 0) {
+            headless::CommandLineCapture quiet;
+            headless::DrawingFile::save(example.db.get(), headless::fromUtf8(file.string()));
+            _exit(0);
+        }
+        usleep(static_cast<useconds_t>(delay));
+        kill(child, SIGKILL);
+        int status = 0;
+        waitpid(child, &status, 0);
+        const Bytes now = ReadFile(file);
+        SCOPED_TRACE("killed after " + std::to_string(delay) + " us");
+        ASSERT_TRUE(now == old || now == *sound) << "a partial file of " << now.size() << " bytes";
+        replaced += now == *sound ? 1 : 0;
+        // Put the old file back for the next round.
+        std::ofstream(file, std::ios::binary | std::ios::trunc)
+            .write(reinterpret_cast<const char*>(old.data()), static_cast<std::streamsize>(old.size()));
+    }
+    std::filesystem::remove_all(folder);
+    // Somewhere the save must have finished, or the test saw nothing but the old file.
+    EXPECT_GT(replaced, 0);
 }
 
 }  // namespace
