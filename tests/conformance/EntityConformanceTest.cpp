@@ -5,6 +5,10 @@
 // draw stops on an aborted regeneration; undo restores the state.
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <utility>
+#include <vector>
+
 #include <memory>
 
 #include "ConformanceCases.h"
@@ -323,6 +327,59 @@ TYPED_TEST(EntityConformanceTest, UndoRestoresTheState)
     entity = this->Open(id, AcDb::kForRead);
     EXPECT_EQ(qxtest::FileOut(entity), edited);
     entity->close();
+}
+
+// The host's own edits, which every entity answers: a move, a grip dragged, every stretch
+// point dragged. Undo brings back the filing byte for byte, redo the edited filing.
+TYPED_TEST(EntityConformanceTest, UndoAndRedoOfHostEditsRestoreTheFilingByteForByte)
+{
+    const AcGeVector3d offset(12.5, -7.25, 0);
+    const std::vector<std::pair<const char*, std::function<void(AcDbEntity*)>>> edits = {
+        {"transformBy", [&](AcDbEntity* e) { e->transformBy(AcGeMatrix3d::translation(offset)); }},
+        {"moveGripPointsAt",
+         [&](AcDbEntity* e) {
+             AcGePoint3dArray grips;
+             AcDbIntArray osnapModes, geomIds;
+             e->getGripPoints(grips, osnapModes, geomIds);
+             AcDbIntArray first;
+             if (!grips.isEmpty())
+                 first.append(0);
+             e->moveGripPointsAt(first, offset);
+         }},
+        {"moveStretchPointsAt",
+         [&](AcDbEntity* e) {
+             AcGePoint3dArray points;
+             e->getStretchPoints(points);
+             AcDbIntArray all;
+             for (int i = 0; i < points.length(); ++i)
+                 all.append(i);
+             e->moveStretchPointsAt(all, offset);
+         }},
+    };
+    for (const auto& [name, edit] : edits) {
+        SCOPED_TRACE(name);
+        AcDbObjectId id;
+        TypeParam* entity = this->AddSample(AcDb::kForRead, &id);
+        const qxtest::Bytes before = qxtest::FileOut(entity);
+        entity->close();
+
+        headless::UndoHistory& history = headless::UndoHistory::of(this->working.db());
+        history.beginGroup();
+        entity = this->Open(id, AcDb::kForWrite);
+        edit(entity);
+        const qxtest::Bytes edited = qxtest::FileOut(entity);
+        entity->close();
+        history.endGroup();
+
+        ASSERT_EQ(history.undo(), Acad::eOk);
+        entity = this->Open(id, AcDb::kForRead);
+        EXPECT_EQ(qxtest::FileOut(entity), before);
+        entity->close();
+        ASSERT_EQ(history.redo(), Acad::eOk);
+        entity = this->Open(id, AcDb::kForRead);
+        EXPECT_EQ(qxtest::FileOut(entity), edited);
+        entity->close();
+    }
 }
 
 }  // namespace
