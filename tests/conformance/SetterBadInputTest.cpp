@@ -63,17 +63,13 @@ std::vector<BadInput> Table()
         {"overlap left NaN", Make<Ovl>(), Call<Ovl>([](Ovl* e) { return e->SetOverlapLeft(kNaN); })},
         {"overlap right infinite", Make<Ovl>(), Call<Ovl>([](Ovl* e) { return e->SetOverlapRight(kInf); })},
         {"structural width NaN", Make<Str>(), Call<Str>([](Str* e) { return e->SetMemberWidthLeft(kNaN); })},
-        {"structural width infinite", Make<Str>(),
-         Call<Str>([](Str* e) { return e->SetMemberWidthRight(kInf); })},
+        {"structural width infinite", Make<Str>(), Call<Str>([](Str* e) { return e->SetMemberWidthRight(kInf); })},
         {"structural indent NaN", Make<Str>(), Call<Str>([](Str* e) { return e->SetIndentLeft(kNaN); })},
         {"rect anchor NaN", Make<Rect>(), Call<Rect>([=](Rect* e) { return e->SetAnchorPoint(nanPoint); })},
-        {"rect direction zero", Make<Rect>(),
-         Call<Rect>([](Rect* e) { return e->SetDirX(AcGeVector3d(0, 0, 0)); })},
-        {"rect direction NaN", Make<Rect>(),
-         Call<Rect>([](Rect* e) { return e->SetDirX(AcGeVector3d(kNaN, 1, 0)); })},
+        {"rect direction zero", Make<Rect>(), Call<Rect>([](Rect* e) { return e->SetDirX(AcGeVector3d(0, 0, 0)); })},
+        {"rect direction NaN", Make<Rect>(), Call<Rect>([](Rect* e) { return e->SetDirX(AcGeVector3d(kNaN, 1, 0)); })},
         {"rect title height NaN", Make<Rect>(), Call<Rect>([](Rect* e) { return e->SetTitleHeight(kNaN); })},
-        {"rect title height infinite", Make<Rect>(),
-         Call<Rect>([](Rect* e) { return e->SetTitleHeight(kInf); })},
+        {"rect title height infinite", Make<Rect>(), Call<Rect>([](Rect* e) { return e->SetTitleHeight(kInf); })},
     };
 }
 

@@ -209,8 +209,8 @@ TEST_F(DamagedExampleDrawingTest, ThousandsOfFlippedBytesOpenWithAMessageOrFailC
 
 TEST_F(DamagedExampleDrawingTest, ASaveKilledAtAnyMomentLeavesTheOldFileOrTheNewOne)
 {
-    const std::filesystem::path folder = std::filesystem::temp_directory_path() /
-                                         ("qx-interrupted-save-" + std::to_string(static_cast<long>(getpid())));
+    const std::filesystem::path folder =
+        std::filesystem::temp_directory_path() / ("qx-interrupted-save-" + std::to_string(static_cast<long>(getpid())));
     std::filesystem::create_directories(folder);
     const std::filesystem::path file = folder / "roof.qxd";
     {
