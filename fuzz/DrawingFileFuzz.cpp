@@ -8,6 +8,13 @@
 #include "headless/CommandLine.h"
 #include "headless/DrawingFile.h"
 #include "headless/SvgPlot.h"
+#include "support/FuzzDrawing.h"
+
+extern "C" int LLVMFuzzerInitialize(int*, char***)
+{
+    fuzzing::FillIdQuarantine();
+    return 0;
+}
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {

@@ -5,34 +5,16 @@
 #include <memory>
 #include <vector>
 
-#include "app/ClassRegistration.h"
-#include "dbapserv.h"
 #include "dbmain.h"
 #include "headless/CommandLine.h"
 #include "headless/MemoryDwgFiler.h"
 #include "headless/RecordingWorldDraw.h"
 #include "panel/AecPanelLite.h"
-#include "rxregsvc.h"
-
-namespace {
-
-AcDbDatabase* WorkingDrawing()
-{
-    static AcDbDatabase* const drawing = [] {
-        Quarvo::RegisterModuleClasses();
-        acrxBuildClassHierarchy();
-        auto* db = new AcDbDatabase();
-        acdbHostApplicationServices()->setWorkingDatabase(db);
-        return db;
-    }();
-    return drawing;
-}
-
-}  // namespace
+#include "support/FuzzDrawing.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    AcDbDatabase* db = WorkingDrawing();
+    AcDbDatabase* db = fuzzing::WorkingDrawing();
     headless::CommandLineCapture quiet;
     AecPanelLite panel;
     headless::MemoryDwgFiler reader(std::vector<std::uint8_t>(data, data + size), AcDb::kFileFiler, db);

@@ -78,6 +78,35 @@ protected:
         return points;
     }
 
+    // Edits the sample inside an undo group; undo must give back the filing byte for byte and
+    // redo the edited filing. Answers the edited filing.
+    template <typename Edit>
+    qxtest::Bytes ExpectUndoAndRedoRestoreTheFiling(Edit edit)
+    {
+        AcDbObjectId id;
+        T* entity = AddSample(AcDb::kForRead, &id);
+        const qxtest::Bytes before = qxtest::FileOut(entity);
+        entity->close();
+
+        headless::UndoHistory& history = headless::UndoHistory::of(working.db());
+        history.beginGroup();
+        entity = Open(id, AcDb::kForWrite);
+        edit(entity);
+        const qxtest::Bytes edited = qxtest::FileOut(entity);
+        entity->close();
+        history.endGroup();
+
+        EXPECT_EQ(history.undo(), Acad::eOk);
+        entity = Open(id, AcDb::kForRead);
+        EXPECT_EQ(qxtest::FileOut(entity), before);
+        entity->close();
+        EXPECT_EQ(history.redo(), Acad::eOk);
+        entity = Open(id, AcDb::kForRead);
+        EXPECT_EQ(qxtest::FileOut(entity), edited);
+        entity->close();
+        return edited;
+    }
+
     qxtest::WorkingDatabase working;
 };
 
@@ -302,27 +331,38 @@ TYPED_TEST(EntityConformanceTest, TheDrawStopsOnAnAbortedRegeneration)
 TYPED_TEST(EntityConformanceTest, UndoRestoresTheState)
 {
     AcDbObjectId id;
-    TypeParam* entity = this->AddSample(AcDb::kForRead, &id);
-    const qxtest::Bytes before = qxtest::FileOut(entity);
-    entity->close();
+    TypeParam* sample = this->AddSample(AcDb::kForRead, &id);
+    const qxtest::Bytes before = qxtest::FileOut(sample);
+    sample->close();
+    EXPECT_NE(this->ExpectUndoAndRedoRestoreTheFiling([](TypeParam* e) { ConformanceCase<TypeParam>::Edit(e); }),
+              before);
+}
 
-    headless::UndoHistory& history = headless::UndoHistory::of(this->working.db());
-    history.beginGroup();
-    entity = this->Open(id, AcDb::kForWrite);
-    ConformanceCase<TypeParam>::Edit(entity);
-    const qxtest::Bytes edited = qxtest::FileOut(entity);
-    EXPECT_NE(edited, before);
-    entity->close();
-    history.endGroup();
-
-    ASSERT_EQ(history.undo(), Acad::eOk);
-    entity = this->Open(id, AcDb::kForRead);
-    EXPECT_EQ(qxtest::FileOut(entity), before);
-    entity->close();
-    ASSERT_EQ(history.redo(), Acad::eOk);
-    entity = this->Open(id, AcDb::kForRead);
-    EXPECT_EQ(qxtest::FileOut(entity), edited);
-    entity->close();
+// The host's own edits, which every entity answers: a move, a grip dragged, every stretch
+// point dragged.
+TYPED_TEST(EntityConformanceTest, UndoAndRedoOfHostEditsRestoreTheFilingByteForByte)
+{
+    const AcGeVector3d offset(12.5, -7.25, 0);
+    SCOPED_TRACE("transformBy");
+    this->ExpectUndoAndRedoRestoreTheFiling([&](TypeParam* e) { e->transformBy(AcGeMatrix3d::translation(offset)); });
+    SCOPED_TRACE("moveGripPointsAt");
+    this->ExpectUndoAndRedoRestoreTheFiling([&](TypeParam* e) {
+        AcGePoint3dArray grips;
+        AcDbIntArray osnapModes, geomIds;
+        e->getGripPoints(grips, osnapModes, geomIds);
+        AcDbIntArray first;
+        first.append(0);
+        e->moveGripPointsAt(first, offset);
+    });
+    SCOPED_TRACE("moveStretchPointsAt");
+    this->ExpectUndoAndRedoRestoreTheFiling([&](TypeParam* e) {
+        AcGePoint3dArray points;
+        e->getStretchPoints(points);
+        AcDbIntArray all;
+        for (int i = 0; i < points.length(); ++i)
+            all.append(i);
+        e->moveStretchPointsAt(all, offset);
+    });
 }
 
 }  // namespace
