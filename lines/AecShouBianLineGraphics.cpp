@@ -15,6 +15,7 @@
 #include "dbents.h"
 #include "dbmain.h"
 #include "dbsymtb.h"
+#include "geometry/WorkingDatabaseScope.h"
 
 namespace {
 
@@ -223,6 +224,7 @@ Adesk::Boolean AecShouBianLine::subWorldDraw(AcGiWorldDraw* worldDraw)
     imp.PlaceLabel();
     if (IsDrawOptionEnabled(TextLabel) && !imp.labels.empty() && imp.labels[0].IsVisible() &&
         !imp.labels[0].GetString().isEmpty()) {
+        const WorkingDatabaseScope scope(database());
         std::unique_ptr<AcDbText> text(imp.labels[0].CreateDbText());
         if (text != nullptr) {
             ApplyStyle(*text, db, imp.textLayer, imp.textColor);
@@ -259,11 +261,13 @@ Acad::ErrorStatus AecShouBianLine::subExplode(AcDbVoidPtrArray& entitySet) const
     }
     imp.PlaceLabel();
     if (IsDrawOptionEnabled(TextLabel) && !imp.labels.empty() && imp.labels[0].IsVisible() &&
-        !imp.labels[0].GetString().isEmpty())
+        !imp.labels[0].GetString().isEmpty()) {
+        const WorkingDatabaseScope scope(database());
         if (AcDbText* text = imp.labels[0].CreateDbText()) {
             ApplyStyle(*text, db, imp.textLayer, imp.textColor);
             entitySet.append(text);
         }
+    }
     return Acad::eOk;
 }
 

@@ -14,6 +14,7 @@
 #include "dbents.h"
 #include "dbmain.h"
 #include "geometry/TextBaseLabel.h"
+#include "geometry/WorkingDatabaseScope.h"
 
 namespace {
 
@@ -87,6 +88,8 @@ Adesk::Boolean AecSteelMember::subWorldDraw(AcGiWorldDraw* worldDraw)
             return Adesk::kTrue;
     }
     if (!IsDisplayOptionEnabled(kSteelDisplayNoWidthText)) {
+        // The text, in no drawing, resolves its style in the working database while drawn.
+        const WorkingDatabaseScope scope(database());
         if (std::unique_ptr<AcDbText> text = CreateWidthText(*this))
             worldDraw->geometry().draw(text.get());
     }

@@ -6,6 +6,7 @@
 #include "AecPanel.h"
 #include "AecPanelImp.h"
 #include "gegbl.h"
+#include "geometry/WorkingDatabaseScope.h"
 
 using DbxPanel::PanelLoop;
 using DbxPanel::PanelVertex;
@@ -183,6 +184,7 @@ Acad::ErrorStatus AecPanel::subExplode(AcDbVoidPtrArray& entitySet) const
             entitySet.append(hatch);
         }
     }
+    const WorkingDatabaseScope scope(database());
     for (const TextLabel& label : imp.labels) {
         if (!IsTextLabelEffectivelyVisible(label))
             continue;
