@@ -1,7 +1,10 @@
 // JsonText: parsing, writing and typed member tests over RapidJSON's document model.
 #include "JsonText.h"
 
+#include <string>
 #include <utility>
+
+#include "Qx/JsonNumberUtil.h"
 
 #include <rapidjson/stringbuffer.h>
 #include <rapidjson/writer.h>
@@ -28,8 +31,10 @@ bool TakeMember(const JsonText::Value& object, const wchar_t* key, T& out, Test 
 
 bool JsonText::Parse(const AcString& text, Document& document, std::size_t& errorOffset)
 {
+    std::wstring safe(text.kwszPtr(), static_cast<std::size_t>(text.length()));
+    Qx::JsonNumberUtil::ZeroNumbersAsPlainZero(safe);
     Document parsed(nullptr, kParserStackCapacity);
-    parsed.Parse<kParseFlags>(text.kwszPtr());
+    parsed.Parse<kParseFlags>(safe.c_str());
     if (parsed.HasParseError()) {
         errorOffset = parsed.GetErrorOffset();
         return false;

@@ -105,6 +105,44 @@ TEST(JsonTextTest, NumbersReadBackBitForBit)
     }
 }
 
+TEST(JsonTextTest, ZeroWithAnyExponentIsZero)
+{
+    // RapidJSON's full-precision conversion of an all-zero significand with a large exponent
+    // is undefined behaviour; such numbers are exactly zero.
+    struct Row {
+        const wchar_t* number;
+        bool negative;
+    };
+    const Row rows[] = {
+        {L"0e054", false}, {L"-0e99", true}, {L"0.000E+400", false}, {L"-0.0e-400", true}, {L"0e23", false}};
+    for (const Row& row : rows) {
+        SCOPED_TRACE(AcString(row.number));
+        const AcString text = AcString(L"{\"v\":") + row.number + L",\"s\":\"0e99\"}";
+        const JsonText::Document document = Parsed(text);
+        double read = 1.0;
+        ASSERT_TRUE(JsonText::GetDouble(document, L"v", read));
+        EXPECT_EQ(read, 0.0);
+        EXPECT_EQ(std::signbit(read), row.negative);
+        AcString untouched;
+        ASSERT_TRUE(JsonText::GetString(document, L"s", untouched));
+        EXPECT_EQ(untouched, AcString(L"0e99"));
+    }
+    // An error after such a number is found where it stands; text that is not a number by
+    // JSON's grammar stays refused.
+    struct Refused {
+        const wchar_t* text;
+        std::size_t offset;
+    };
+    const Refused refused[] = {{L"[0e054 x]", 7}, {L"[00e54]", 2}, {L"[0e]", 3}, {L"[-0e99-1]", 6}};
+    for (const Refused& row : refused) {
+        SCOPED_TRACE(AcString(row.text));
+        JsonText::Document document;
+        std::size_t offset = 0;
+        EXPECT_FALSE(JsonText::Parse(row.text, document, offset));
+        EXPECT_EQ(offset, row.offset);
+    }
+}
+
 TEST(JsonTextTest, TheWriterRefusesWhatJsonCannotHold)
 {
     const double refused[] = {std::numeric_limits<double>::quiet_NaN(), std::numeric_limits<double>::infinity(),

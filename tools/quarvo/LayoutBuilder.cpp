@@ -15,6 +15,7 @@
 #include "SteelMemberBuilder.h"
 #include "StructuralLineBuilder.h"
 #include "Progress.h"
+#include "Qx/JsonNumberUtil.h"
 
 namespace quarvo {
 
@@ -35,7 +36,9 @@ const std::vector<LayoutKind>& LayoutBuilder::Kinds()
 
 void LayoutBuilder::Parse(const std::string& text, rapidjson::Document& document)
 {
-    document.Parse<rapidjson::kParseIterativeFlag | rapidjson::kParseFullPrecisionFlag>(text.c_str(), text.size());
+    std::string safe = text;
+    Qx::JsonNumberUtil::ZeroNumbersAsPlainZero(safe);
+    document.Parse<rapidjson::kParseIterativeFlag | rapidjson::kParseFullPrecisionFlag>(safe.c_str(), safe.size());
     if (document.HasParseError()) {
         const std::size_t offset = std::min(document.GetErrorOffset(), text.size());
         std::size_t line = 1;

@@ -1,0 +1,98 @@
+// JsonNumberUtil: JSON number text made safe for RapidJSON's full-precision parser.
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+namespace Qx {
+
+struct JsonNumberUtil {
+    // RapidJSON's full-precision conversion normalises a zero significand with a count of
+    // leading zeros of 0, which is undefined ("0e99" reaches it). A number whose digits are
+    // all zero is exactly zero, so such numbers are written as "0.0" (or "-0.0") padded with
+    // spaces to the same length: the value, its type (a double) and the offsets of every
+    // later character, and so of any parse error, stay as they were. Text in strings and
+    // text that is not a number by JSON's grammar are left alone.
+    template <typename Ch>
+    static void ZeroNumbersAsPlainZero(std::basic_string<Ch>& text)
+    {
+        const std::size_t n = text.size();
+        std::size_t i = 0;
+        while (i < n) {
+            const Ch c = text[i];
+            if (c == Ch('"')) {
+                ++i;
+                while (i < n && text[i] != Ch('"'))
+                    i += text[i] == Ch('\\') ? 2 : 1;
+                ++i;
+                continue;
+            }
+            if (c != Ch('-') && !IsDigit(c)) {
+                ++i;
+                continue;
+            }
+            const std::size_t start = i;
+            const std::size_t end = ZeroWithExponentEnd(text, i);
+            if (end == 0) {
+                // Not such a number: skip its characters, so that a digit within it is not
+                // taken for the start of another.
+                while (i < n &&
+                       (IsDigit(text[i]) || text[i] == Ch('-') || text[i] == Ch('+') || text[i] == Ch('.') ||
+                        text[i] == Ch('e') || text[i] == Ch('E')))
+                    ++i;
+                if (i == start)
+                    ++i;
+                continue;
+            }
+            std::size_t at = start;
+            if (text[at] == Ch('-'))
+                ++at;
+            text[at++] = Ch('0');
+            text[at++] = Ch('.');
+            text[at++] = Ch('0');
+            while (at < end)
+                text[at++] = Ch(' ');
+            i = end;
+        }
+    }
+
+private:
+    template <typename Ch>
+    static bool IsDigit(Ch c)
+    {
+        return c >= Ch('0') && c <= Ch('9');
+    }
+
+    // The end of the number starting at `from` when it is one by JSON's grammar, its digits
+    // before the exponent are all zero and it has an exponent; zero otherwise.
+    template <typename Ch>
+    static std::size_t ZeroWithExponentEnd(const std::basic_string<Ch>& text, std::size_t from)
+    {
+        const std::size_t n = text.size();
+        std::size_t i = from;
+        if (i < n && text[i] == Ch('-'))
+            ++i;
+        if (i >= n || text[i] != Ch('0'))
+            return 0;  // a leading digit other than zero: not all zero
+        ++i;
+        if (i < n && text[i] == Ch('.')) {
+            ++i;
+            const std::size_t digits = i;
+            while (i < n && text[i] == Ch('0'))
+                ++i;
+            if (i == digits || (i < n && IsDigit(text[i])))
+                return 0;
+        }
+        if (i >= n || (text[i] != Ch('e') && text[i] != Ch('E')))
+            return 0;
+        ++i;
+        if (i < n && (text[i] == Ch('+') || text[i] == Ch('-')))
+            ++i;
+        const std::size_t digits = i;
+        while (i < n && IsDigit(text[i]))
+            ++i;
+        return i > digits ? i : 0;
+    }
+};
+
+}  // namespace Qx
