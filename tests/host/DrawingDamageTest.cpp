@@ -142,8 +142,7 @@ TEST_F(DrawingDamageTest, LengthsThatPromiseMoreThanTheFileHoldsAreRefused)
         headless::DrawingReadReport report;
         auto db = readBytes(damaged, &report);
         ASSERT_NE(db, nullptr);
-        EXPECT_NE(capture.utf8().find("its length (4294967295 bytes) runs past the end of the file"),
-                  std::string::npos)
+        EXPECT_NE(capture.utf8().find("its length (4294967295 bytes) runs past the end of the file"), std::string::npos)
             << capture.utf8();
         EXPECT_EQ(report.skippedRecords, 1);
         // The reader found the next record and read on.
@@ -154,6 +153,45 @@ TEST_F(DrawingDamageTest, LengthsThatPromiseMoreThanTheFileHoldsAreRefused)
         return;
     }
     FAIL() << "no record for the second shape";
+}
+
+// zlib's CRC-32, which frames every record, bit by bit.
+std::uint32_t crc32Of(const std::uint8_t* data, std::size_t size)
+{
+    std::uint32_t crc = 0xFFFFFFFFu;
+    for (std::size_t i = 0; i < size; ++i) {
+        crc ^= data[i];
+        for (int bit = 0; bit < 8; ++bit)
+            crc = (crc >> 1) ^ (0xEDB88320u & (0u - (crc & 1u)));
+    }
+    return ~crc;
+}
+
+TEST_F(DrawingDamageTest, ACurrentLineweightThatIsNoneOfTheHostsKeepsTheStandardOne)
+{
+    for (const RecordPlace& place : recordsOf(sound)) {
+        if (place.kind != 'D')
+            continue;
+        // The settings end with the current lineweight, 16 bits; 21080 is no weight at all.
+        Bytes damaged = sound;
+        const std::size_t weight = place.offset + 9 + place.payload - 2;
+        damaged[weight] = 21080 & 0xFF;
+        damaged[weight + 1] = 21080 >> 8;
+        const std::uint32_t crc = crc32Of(damaged.data() + place.offset + 4, 5 + place.payload);
+        for (std::size_t i = 0; i < 4; ++i)
+            damaged[place.offset + 9 + place.payload + i] = static_cast<std::uint8_t>(crc >> (8 * i));
+        headless::CommandLineCapture capture;
+        auto db = readBytes(damaged);
+        ASSERT_NE(db, nullptr) << capture.utf8();
+        EXPECT_EQ(db->celweight(), AcDb::kLnWtByLayer);
+        EXPECT_NE(capture.utf8().find("The drawing's current lineweight (21080) is none of the host's; the standard "
+                                      "one is kept."),
+                  std::string::npos)
+            << capture.utf8();
+        EXPECT_EQ(clonetest::entitiesOf(db.get()).size(), 5u);
+        return;
+    }
+    FAIL() << "no drawing settings record";
 }
 
 struct HeaderCase {

@@ -11,6 +11,7 @@
 #include "acutads.h"
 #include "db/AcDbImpObject.h"
 #include "db/AcDbStub.h"
+#include "db/DbChecks.h"
 #include "dbproxy.h"
 #include "headless/CommandLine.h"
 #include "headless/DatabaseAccess.h"
@@ -21,6 +22,20 @@
 namespace hostfile {
 
 namespace {
+
+// A fuzzing build takes any checksum: a mutated record would otherwise stop at its frame
+// and never reach the readers of its contents.
+bool checksumMatches(const std::uint8_t* data, std::size_t size, std::uint64_t stored)
+{
+#ifdef FUZZING_BUILD_MODE_UNSAFE_FOR_PRODUCTION
+    (void)data;
+    (void)size;
+    (void)stored;
+    return true;
+#else
+    return checksum(data, size) == stored;
+#endif
+}
 
 constexpr std::size_t kHandleBytes = 8;
 // A reference table entry: offset and kind.
@@ -98,7 +113,7 @@ Acad::ErrorStatus DrawingFileReader::readHeader()
              L"; this host reads version " + std::to_wstring(kFormatMajor) + L" files.");
         return Acad::eInvalidDwgVersion;
     }
-    if (checksum(header, kHeaderBytes - 4) != littleAt(header + kHeaderBytes - 4, 4)) {
+    if (!checksumMatches(header, kHeaderBytes - 4, littleAt(header + kHeaderBytes - 4, 4))) {
         note(L"The drawing file's header is damaged; handles are taken from the objects.");
         m_report.complete = false;
         return Acad::eOk;
@@ -131,7 +146,7 @@ bool DrawingFileReader::frameAt(std::size_t pos, Frame& frame, std::wstring& why
         return false;
     }
     const std::size_t checked = 1 + 4 + static_cast<std::size_t>(length);
-    if (checksum(at + 4, checked) != littleAt(at + 4 + checked, 4)) {
+    if (!checksumMatches(at + 4, checked, littleAt(at + 4 + checked, 4))) {
         m_searchWork += checked;
         why = L"its checksum does not match its contents";
         return false;
@@ -223,9 +238,10 @@ bool DrawingFileReader::parseObject(const Frame& frame, ObjectIn& object)
         Adesk::UInt8 kind = 0;
         filer.readUInt32(&reference.offset);
         filer.readUInt8(&kind);
-        reference.kind = static_cast<AcDb::ReferenceType>(kind);
         sound = filer.filerStatus() == Acad::eOk && kind <= AcDb::kHardOwnershipRef && reference.offset >= next &&
-                static_cast<std::uint64_t>(reference.offset) + kHandleBytes <= object.data.size();
+            static_cast<std::uint64_t>(reference.offset) + kHandleBytes <= object.data.size();
+        if (sound)
+            reference.kind = static_cast<AcDb::ReferenceType>(kind);
         next = reference.offset + kHandleBytes;
         object.references.push_back(reference);
     }
@@ -417,7 +433,13 @@ void DrawingFileReader::readDatabaseFrame(const Frame& frame, AcDbDatabase* db)
     }
     db->setCeltscale(celtscale);
     db->setLtscale(ltscale);
-    db->setCelweight(static_cast<AcDb::LineWeight>(celweight));
+    // A weight that is none of the host's keeps the standard one; the value is never held
+    // as the enumeration it is not.
+    if (hostdb::isValidLineWeight(celweight))
+        db->setCelweight(static_cast<AcDb::LineWeight>(celweight));
+    else
+        note(L"The drawing's current lineweight (" + std::to_wstring(celweight) +
+             L") is none of the host's; the standard one is kept.");
 }
 
 void DrawingFileReader::summarise()
@@ -425,8 +447,8 @@ void DrawingFileReader::summarise()
     for (const auto& [name, count] : m_proxyCounts) {
         note(headless::formatHostString(L"Class %s (%s) of application \"%s\" is not loaded: %d object%s kept as "
                                         L"proxies.",
-                                        name.c_str(), count.dxfName.kwszPtr(), count.application.kwszPtr(),
-                                        count.count, count.count == 1 ? L"" : L"s"));
+                                        name.c_str(), count.dxfName.kwszPtr(), count.application.kwszPtr(), count.count,
+                                        count.count == 1 ? L"" : L"s"));
     }
 }
 

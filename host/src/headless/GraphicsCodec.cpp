@@ -6,6 +6,7 @@
 
 #include "acutads.h"
 #include "acutmem.h"
+#include "db/DbChecks.h"
 
 namespace hostfile {
 
@@ -145,6 +146,10 @@ Acad::ErrorStatus readTraits(AcDbDwgFiler* filer, headless::RecordedTraits& trai
     filer->readInt64(&marker);
     if (filer->filerStatus() != Acad::eOk)
         return filer->filerStatus();
+    if (!hostdb::isValidLineWeight(lineWeight)) {
+        filer->setFilerStatus(Acad::eDwgObjectImproperlyRead);
+        return Acad::eDwgObjectImproperlyRead;
+    }
     traits.trueColor.setRGBM(rgbm);
     traits.layerId = layer;
     traits.linetypeId = linetype;
@@ -181,7 +186,8 @@ Acad::ErrorStatus GraphicsCodec::write(AcDbDwgFiler* filer, const std::vector<Re
     return filer->filerStatus();
 }
 
-Acad::ErrorStatus GraphicsCodec::read(AcDbDwgFiler* filer, std::size_t budget, std::vector<RecordedPrimitive>& primitives)
+Acad::ErrorStatus GraphicsCodec::read(AcDbDwgFiler* filer, std::size_t budget,
+                                      std::vector<RecordedPrimitive>& primitives)
 {
     primitives.clear();
     std::size_t count = 0;

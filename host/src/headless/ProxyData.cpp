@@ -4,6 +4,7 @@
 #include "AcDbEntity.h"
 #include "GraphicsCodec.h"
 #include "dbproxy.h"
+#include "db/DbChecks.h"
 #include "rxclass.h"
 
 namespace hostfile {
@@ -238,6 +239,10 @@ Acad::ErrorStatus ProxyData::readSession(AcDbDwgFiler* filer)
         read.drawnWith.color.setRGBM(rgbm);
         read.drawnWith.layerId = layer;
         read.drawnWith.linetypeId = linetype;
+        if (!hostdb::isValidLineWeight(lineWeight)) {
+            filer->setFilerStatus(Acad::eDwgObjectImproperlyRead);
+            return Acad::eDwgObjectImproperlyRead;
+        }
         read.drawnWith.lineWeight = static_cast<AcDb::LineWeight>(lineWeight);
     }
     filer->readBool(&read.hasTransform);
