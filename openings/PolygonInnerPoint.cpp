@@ -18,6 +18,8 @@ constexpr double kRelativePrecision = 1e-3;
 constexpr std::size_t kEvaluationBudget = 1000000;
 // The first grid has at most this many cells along the polygon's longer side.
 constexpr double kMaxInitialCellsAcross = 64.0;
+// The list of candidate cells is pruned to those still within reach when it grows past this.
+constexpr std::size_t kCandidatesBeforePruning = 4096;
 // Arcs become chords of at most this angle (radians) for label placement.
 constexpr double kArcStepAngle = 3.14159265358979323846 / 16.0;
 constexpr int kMaxChordsPerArc = 32;
@@ -130,12 +132,17 @@ bool PolygonInnerPoint::Find(const std::vector<AcGePoint2d>& polygon, AcGePoint2
 
     const double precision = kRelativePrecision * std::max(width, height);
     std::size_t evaluations = 0;
-    std::vector<Cell> evaluated;
+    double bestDistance = -HUGE_VAL;
+    // Only cells that may end within the precision of the best are kept for the final
+    // choice: the best only grows, so a cell left out now would be left out at the end.
+    std::vector<Cell> candidates;
+    std::size_t pruneAt = kCandidatesBeforePruning;
     auto makeCell = [&](const AcGePoint2d& center, double half) {
         evaluations += polygon.size();
         const double distance = SignedDistance(polygon, center);
         const Cell cell{center, half, distance, distance + half * std::sqrt(2.0)};
-        evaluated.push_back(cell);
+        if (distance >= bestDistance - precision)
+            candidates.push_back(cell);
         return cell;
     };
 
@@ -145,7 +152,7 @@ bool PolygonInnerPoint::Find(const std::vector<AcGePoint2d>& polygon, AcGePoint2
         for (int row = 0; row < rows; ++row)
             queue.push(makeCell(AcGePoint2d(minX + column * cellSize + half, minY + row * cellSize + half), half));
     }
-    double bestDistance = makeCell(centroid, 0.0).distance;
+    bestDistance = std::max(bestDistance, makeCell(centroid, 0.0).distance);
     bestDistance = std::max(bestDistance, makeCell(boxCenter, 0.0).distance);
 
     while (!queue.empty() && evaluations < kEvaluationBudget) {
@@ -159,12 +166,19 @@ bool PolygonInnerPoint::Find(const std::vector<AcGePoint2d>& polygon, AcGePoint2
             for (const double dy : {-quarter, quarter})
                 queue.push(makeCell(AcGePoint2d(cell.center.x + dx, cell.center.y + dy), quarter));
         }
+        if (candidates.size() > pruneAt) {
+            const double floor = bestDistance - precision;
+            candidates.erase(std::remove_if(candidates.begin(), candidates.end(),
+                                            [floor](const Cell& c) { return c.distance < floor; }),
+                             candidates.end());
+            pruneAt = std::max(kCandidatesBeforePruning, 2 * candidates.size());
+        }
     }
 
     // Of the points within the precision of the best, the one nearest the centroid: a
     // choice that does not hang on which of many equally good cells was split first.
     const Cell* chosen = nullptr;
-    for (const Cell& cell : evaluated) {
+    for (const Cell& cell : candidates) {
         if (cell.distance < bestDistance - precision)
             continue;
         if (chosen == nullptr || cell.center.distanceTo(centroid) < chosen->center.distanceTo(centroid))
