@@ -6,6 +6,7 @@
 #include <functional>
 
 #include "AecPanelImp.h"
+#include "dbsymtb.h"
 #include "app/ModuleClassFlags.h"
 
 ACRX_DXF_DEFINE_MEMBERS(AecPanel, AcDbEntity, Quarvo::kClassDwgVersion, Quarvo::kClassMaintenanceVersion,
@@ -409,8 +410,18 @@ AcDbObjectId AecPanel::GetTextLabelLayerId(TextLabelType type) const
     return label != nullptr ? label->GetLayerId() : AcDbObjectId::kNull;
 }
 
+// A null id puts the label on the panel's own layer; an id that names no layer is refused.
 bool AecPanel::SetTextLabelLayerId(TextLabelType type, const AcDbObjectId& layerId)
 {
+    if (!layerId.isNull()) {
+        AcDbObject* named = nullptr;
+        if (acdbOpenObject(named, layerId, AcDb::kForRead) != Acad::eOk)
+            return false;
+        const bool isLayer = AcDbLayerTableRecord::cast(named) != nullptr;
+        named->close();
+        if (!isLayer)
+            return false;
+    }
     return EditLabel(*this, *m_imp, type, [&](TextLabel& l) { l.SetLayerId(layerId); });
 }
 

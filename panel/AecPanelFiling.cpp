@@ -203,6 +203,7 @@ Acad::ErrorStatus AecPanel::dwgInFields(AcDbDwgFiler* filer)
     imp.hatchDisplayEnabled = record.hatchDisplayEnabled;
     imp.hatch = std::move(record.hatch);
     imp.hatchPresent = imp.hatch != nullptr;
+    imp.hatchInputs = 0;
 
     DataNodeRoot::DataIn(filer);
     return filer->filerStatus();

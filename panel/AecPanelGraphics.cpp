@@ -123,8 +123,56 @@ void AecPanel::Imp::FlushLoopPolylines()
 
 // The hatch of the hatch information over the loops the polylines hold: the outline as the
 // external loop, the holes inside it; not associative (the panel rebuilds it itself).
+std::uint64_t AecPanel::Imp::HatchInputsNow() const
+{
+    // FNV-1a over the loops' vertices and the hatch information's characters.
+    std::uint64_t digest = 14695981039346656037ull;
+    const auto mix = [&digest](const void* data, std::size_t size) {
+        const auto* bytes = static_cast<const unsigned char*>(data);
+        for (std::size_t i = 0; i < size; ++i) {
+            digest ^= bytes[i];
+            digest *= 1099511628211ull;
+        }
+    };
+    for (const PanelLoop& loop : loops) {
+        const std::uint64_t count = loop.size();
+        mix(&count, sizeof count);
+        for (const PanelVertex& v : loop) {
+            const double values[3] = {v.point.x, v.point.y, v.bulge};
+            mix(values, sizeof values);
+        }
+    }
+    mix(hatchInfo.kwszPtr(), sizeof(wchar_t) * static_cast<std::size_t>(hatchInfo.length()));
+    return digest == 0 ? 1 : digest;
+}
+
+void AecPanel::Imp::AdoptHatchOf(const Imp& source)
+{
+    if (source.hatchInputs == 0 || loops.size() != source.loops.size() || hatchInfo != source.hatchInfo)
+        return;
+    for (std::size_t i = 0; i < loops.size(); ++i) {
+        const PanelLoop& mine = loops[i];
+        const PanelLoop& theirs = source.loops[i];
+        if (mine.size() != theirs.size())
+            return;
+        for (std::size_t j = 0; j < mine.size(); ++j)
+            if (mine[j].point.x != theirs[j].point.x || mine[j].point.y != theirs[j].point.y ||
+                mine[j].bulge != theirs[j].bulge)
+                return;
+    }
+    if (source.HatchInputsNow() != source.hatchInputs)
+        return;  // the source changed since its hatch was evaluated
+    hatch = source.hatch;
+    hatchPresent = source.hatchPresent;
+    hatchInputs = source.hatchInputs;
+}
+
 void AecPanel::Imp::FlushHatch()
 {
+    const std::uint64_t inputs = HatchInputsNow();
+    if (inputs == hatchInputs)
+        return;  // evaluating the same inputs again gives the same hatch
+    hatchInputs = inputs;
     hatch.reset();
     hatchPresent = false;
     DbxPanel::HatchPatternInfo info;
@@ -264,6 +312,7 @@ Acad::ErrorStatus AecPanel::subDeepClone(AcDbObject* owner, AcDbObject*& clone, 
     } else {
         acutPrintf(L"\n[错误] 复制板材的基本信息无法解析，保留原 JSON，未重置编号/配置 ID。\n");
     }
+    copy->m_imp->AdoptHatchOf(*m_imp);
     copy->m_imp->Flush(false);
     return es;
 }
@@ -285,6 +334,7 @@ AecPanel* AecPanel::CreateCopy() const
         to.loops = from.loops;
         to.labels = from.labels;
         to.hatchDisplayEnabled = from.hatchDisplayEnabled;
+        to.AdoptHatchOf(from);
         to.Flush(false);
     } catch (...) {
         return nullptr;

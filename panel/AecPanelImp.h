@@ -2,6 +2,7 @@
 // sub-entities built from it, and the routines the panel's concerns share.
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <vector>
 
@@ -37,9 +38,15 @@ struct AecPanel::Imp {
     AcString accessoryInfo;
     // One per loop, in loop order; a loop the host polyline refuses has an empty one.
     std::vector<std::shared_ptr<AcDbPolyline>> loopPolylines;
+    // Never changed once evaluated, only replaced, so copies of a panel may share it.
     std::shared_ptr<AcDbHatch> hatch;
     bool hatchDisplayEnabled = true;
     bool hatchPresent = false;
+    // A digest of what the hatch was last evaluated from (the loops and the hatch
+    // information); zero when it was not evaluated here (read from a file). Filling a pattern
+    // is the costliest part of a panel, so a flush over unchanged inputs, and a copy of an
+    // unchanged panel, keep the evaluated hatch.
+    std::uint64_t hatchInputs = 0;
 
     // A drag in progress: the loops when it started and the sloped length then.
     std::vector<DbxPanel::PanelLoop> dragSnapshot;
@@ -63,6 +70,10 @@ struct AecPanel::Imp {
 
     void FlushLoopPolylines();
     void FlushHatch();
+    std::uint64_t HatchInputsNow() const;
+    // Takes the source's evaluated hatch when this panel's inputs are the source's and the
+    // source's hatch was evaluated from them.
+    void AdoptHatchOf(const Imp& source);
     void PlaceLabels();
     void Flush(bool notify);
 

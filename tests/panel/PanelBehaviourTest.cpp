@@ -247,6 +247,60 @@ TEST(PanelBehaviourTest, ACopyOfAnUnreadableBlockKeepsItAndSaysSoOnce)
     clone->close();
 }
 
+// What a panel draws, one primitive a line, and how many of them its hatch drew.
+std::string DrawnBy(const AcDbObjectId& id, std::size_t* hatchPrimitives = nullptr)
+{
+    AecPanel* panel = nullptr;
+    EXPECT_EQ(acdbOpenObject(panel, id, AcDb::kForRead), Acad::eOk);
+    headless::RecordingWorldDraw draw;
+    draw.drawDrawable(panel);
+    panel->close();
+    std::string lines;
+    std::size_t nested = 0;
+    for (const auto& p : draw.primitives()) {
+        lines += p.toLine() + "\n";
+        nested += p.depth > 0;
+    }
+    if (hatchPrimitives != nullptr)
+        *hatchPrimitives = nested;
+    return lines;
+}
+
+TEST(PanelBehaviourTest, ACopyFillsAsItsSourceAndTheirEditsStayApart)
+{
+    qxtest::WorkingDatabase working;
+    const AcDbObjectId id = working.Add(paneltest::RichPanel());
+    AcDbObjectIdArray ids;
+    ids.append(id);
+    AcDbObjectIdArray clones;
+    headless::CommandLineCapture quiet;
+    ASSERT_EQ(headless::copyObjects(ids, clones), Acad::eOk);
+    std::size_t hatchPrimitives = 0;
+    const std::string source = DrawnBy(id, &hatchPrimitives);
+    EXPECT_GT(hatchPrimitives, 0u);
+    EXPECT_EQ(DrawnBy(clones[0]), source);
+
+    // A coarser pattern on the copy leaves the source's fill as it was.
+    AecPanel* copy = nullptr;
+    ASSERT_EQ(acdbOpenObject(copy, clones[0], AcDb::kForWrite), Acad::eOk);
+    DbxPanel::HatchPatternInfo hatch;
+    ASSERT_TRUE(copy->GetHatchPatternInfo(hatch));
+    hatch.SetPatternScale(hatch.GetPatternScale() * 2.0);
+    copy->SetHatchPatternInfo(hatch);
+    copy->close();
+    const std::string copyCoarser = DrawnBy(clones[0]);
+    EXPECT_NE(copyCoarser, source);
+    EXPECT_EQ(DrawnBy(id), source);
+
+    // A shorter source leaves the copy's fill as it was.
+    AecPanel* shortened = nullptr;
+    ASSERT_EQ(acdbOpenObject(shortened, id, AcDb::kForWrite), Acad::eOk);
+    ASSERT_TRUE(shortened->SetGeomLengthAndFlush(shortened->GetGeomLength() / 2.0, true));
+    shortened->close();
+    EXPECT_NE(DrawnBy(id), source);
+    EXPECT_EQ(DrawnBy(clones[0]), copyCoarser);
+}
+
 TEST(PanelBehaviourTest, CreateCopyIsAnExactDuplicate)
 {
     std::unique_ptr<AecPanel> panel(paneltest::RichPanel());
