@@ -107,14 +107,20 @@ TEST(JsonTextTest, NumbersReadBackBitForBit)
 
 TEST(JsonTextTest, ZeroWithAnyExponentIsZero)
 {
-    // RapidJSON's full-precision conversion of an all-zero significand with a large exponent
-    // is undefined behaviour; such numbers are exactly zero.
+    // RapidJSON's full-precision conversion of an all-zero significand with a large decimal
+    // exponent (written, or of more than 22 decimals) is undefined behaviour; such numbers
+    // are exactly zero.
     struct Row {
         const wchar_t* number;
         bool negative;
     };
-    const Row rows[] = {
-        {L"0e054", false}, {L"-0e99", true}, {L"0.000E+400", false}, {L"-0.0e-400", true}, {L"0e23", false}};
+    const Row rows[] = {{L"0e054", false},
+                        {L"-0e99", true},
+                        {L"0.000E+400", false},
+                        {L"-0.0e-400", true},
+                        {L"0e23", false},
+                        {L"0.000000000000000000000000000000", false},
+                        {L"-0.00000000000000000000000", true}};
     for (const Row& row : rows) {
         SCOPED_TRACE(AcString(row.number));
         const AcString text = AcString(L"{\"v\":") + row.number + L",\"s\":\"0e99\"}";

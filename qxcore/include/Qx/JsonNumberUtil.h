@@ -8,11 +8,12 @@ namespace Qx {
 
 struct JsonNumberUtil {
     // RapidJSON's full-precision conversion normalises a zero significand with a count of
-    // leading zeros of 0, which is undefined ("0e99" reaches it). A number whose digits are
-    // all zero is exactly zero, so such numbers are written as "0.0" (or "-0.0") padded with
-    // spaces to the same length: the value, its type (a double) and the offsets of every
-    // later character, and so of any parse error, stay as they were. Text in strings and
-    // text that is not a number by JSON's grammar are left alone.
+    // leading zeros of 0, which is undefined ("0e99" and a zero with more than 22 decimals
+    // reach it). A double whose digits are all zero is exactly zero, so such numbers are
+    // written as "0.0" (or "-0.0") padded with spaces to the same length: the value, its
+    // type (a double) and the offsets of every later character, and so of any parse error,
+    // stay as they were. Text in strings and text that is not a number by JSON's grammar
+    // are left alone.
     template <typename Ch>
     static void ZeroNumbersAsPlainZero(std::basic_string<Ch>& text)
     {
@@ -32,7 +33,7 @@ struct JsonNumberUtil {
                 continue;
             }
             const std::size_t start = i;
-            const std::size_t end = ZeroWithExponentEnd(text, i);
+            const std::size_t end = ZeroDoubleEnd(text, i);
             if (end == 0) {
                 // Not such a number: skip its characters, so that a digit within it is not
                 // taken for the start of another.
@@ -64,9 +65,9 @@ private:
     }
 
     // The end of the number starting at `from` when it is one by JSON's grammar, its digits
-    // before the exponent are all zero and it has an exponent; zero otherwise.
+    // are all zero and it has a fraction or an exponent (a double); zero otherwise.
     template <typename Ch>
-    static std::size_t ZeroWithExponentEnd(const std::basic_string<Ch>& text, std::size_t from)
+    static std::size_t ZeroDoubleEnd(const std::basic_string<Ch>& text, std::size_t from)
     {
         const std::size_t n = text.size();
         std::size_t i = from;
@@ -75,6 +76,7 @@ private:
         if (i >= n || text[i] != Ch('0'))
             return 0;  // a leading digit other than zero: not all zero
         ++i;
+        bool isDouble = false;
         if (i < n && text[i] == Ch('.')) {
             ++i;
             const std::size_t digits = i;
@@ -82,16 +84,20 @@ private:
                 ++i;
             if (i == digits || (i < n && IsDigit(text[i])))
                 return 0;
+            isDouble = true;
         }
-        if (i >= n || (text[i] != Ch('e') && text[i] != Ch('E')))
-            return 0;
-        ++i;
-        if (i < n && (text[i] == Ch('+') || text[i] == Ch('-')))
+        if (i < n && (text[i] == Ch('e') || text[i] == Ch('E'))) {
             ++i;
-        const std::size_t digits = i;
-        while (i < n && IsDigit(text[i]))
-            ++i;
-        return i > digits ? i : 0;
+            if (i < n && (text[i] == Ch('+') || text[i] == Ch('-')))
+                ++i;
+            const std::size_t digits = i;
+            while (i < n && IsDigit(text[i]))
+                ++i;
+            if (i == digits)
+                return 0;
+            isDouble = true;
+        }
+        return isDouble ? i : 0;
     }
 };
 
