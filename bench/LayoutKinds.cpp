@@ -274,6 +274,9 @@ AcDbEntity* Panel(AcDbDatabase*, int i)
     panel->SetTextLabel(DbxPanel::TextLabelType::kNumber, number.c_str());
     panel->SetTextLabel(DbxPanel::TextLabelType::kLength, L"L=6000");
     panel->SetTextLabel(DbxPanel::TextLabelType::kPanelType, L"YX35-125-750");
+    // As the layout application (and quarvo new) does once a panel's blocks are set: the
+    // hatch is filled here, not by the first operation that is measured.
+    panel->FlushGraphicSubEntities(false);
     return panel;
 }
 

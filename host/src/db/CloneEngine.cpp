@@ -3,6 +3,8 @@
 // one object.
 #include "CloneEngine.h"
 
+#include <algorithm>
+
 #include "AcDbImpObject.h"
 #include "AcDbStub.h"
 #include "CloneFiler.h"
@@ -192,13 +194,22 @@ Acad::ErrorStatus CloneEngine::translateAll(AcDbIdMapping& map)
             return access.status();
         CloneFiler filer(AcDb::kIdXlateFiler);
         Acad::ErrorStatus es = clone->dwgOut(&filer);
-        if (es == Acad::eOk)
-            es = filer.rewind();
-        filer.translateThrough(&map);
-        if (es == Acad::eOk)
-            es = clone->dwgIn(&filer);
         if (es != Acad::eOk)
             return es;
+        // Reading the clone back only changes the references it holds: when every one of
+        // them stays as it is (a style, a layer, nothing cloned with it), there is nothing
+        // to read back.
+        const auto translates = [&map](const CloneFiler::Reference& reference) {
+            return CloneFiler::translate(reference.id, map) != reference.id;
+        };
+        if (std::any_of(filer.references().begin(), filer.references().end(), translates)) {
+            es = filer.rewind();
+            filer.translateThrough(&map);
+            if (es == Acad::eOk)
+                es = clone->dwgIn(&filer);
+            if (es != Acad::eOk)
+                return es;
+        }
         AcDbImpObject* imp = AcDbImpObject::of(clone);
         if (!pair.isOwnerXlated())
             imp->setOwner(CloneFiler::translate(clone->ownerId(), map));
@@ -393,7 +404,7 @@ Acad::ErrorStatus CloneEngine::mapRecord(AcDbSymbolTableRecord* record, AcDbIdMa
     AcDbObjectId existing;
     if (table->getAt(name.kwszPtr(), existing) == Acad::eOk) {
         const bool replace = state.duplicateRecords == AcDb::kDrcReplace &&
-                             AcDbBlockTableRecord::cast(record) == nullptr && existing != record->objectId();
+            AcDbBlockTableRecord::cast(record) == nullptr && existing != record->objectId();
         if (!replace)
             return map.assign(AcDbIdPair(record->objectId(), existing, false, false, true));
         // The existing record takes the source's fields and is translated like a clone.
