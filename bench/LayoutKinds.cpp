@@ -267,7 +267,7 @@ AcDbEntity* Panel(AcDbDatabase*, int i)
          L",\"customPrefix_1\":\"WM\",\"shapeSuffix\":\"\",\"drawingNumSuffix\":\"\",\"mergeSuffix\":\"\","
          L"\"customSuffix\":\"\"}")
             .c_str(),
-        L"{\"patternType\":1,\"patternName\":\"ANSI31\",\"patScale\":40,\"patternAngle\":0,\"patFillColor\":8}",
+        L"{\"patternType\":1,\"patternName\":\"ANSI31\",\"patScale\":2400,\"patternAngle\":0,\"patFillColor\":8}",
         L"{\"direction\":1,\"sequenceNumber\":1,\"mergedLength\":18000.0,\"mergedWidth\":750.0,"
         L"\"relatedPanels\":[1]}",
         L"{}", L"[{\"名称\":\"自攻螺钉 ST6.3x25\",\"数量\":21},{\"名称\":\"丁基密封胶带\",\"长度\":750.0}]");

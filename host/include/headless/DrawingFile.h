@@ -19,15 +19,16 @@ constexpr const wchar_t* kDrawingFileExtension = L".qxd";
 // What reading a drawing found. Every message is also printed on the command line.
 struct ACHOST_API DrawingReadReport {
     std::vector<std::wstring> messages;
-    int objects = 0;          // objects that joined the drawing, proxies included
+    int objects = 0;  // objects that joined the drawing, proxies included
     int proxies = 0;
-    int skippedRecords = 0;   // damaged records left out
-    bool complete = true;     // false when the file ended early or records were skipped
+    int skippedRecords = 0;  // damaged records left out
+    bool complete = true;    // false when the file ended early or records were skipped
 };
 
 class ACHOST_API DrawingFile {
 public:
-    // The file's bytes for db. Fails (and writes nothing) when an object cannot be filed.
+    // The file's bytes for db, in place of what bytes held (its memory is reused). Fails,
+    // leaving bytes empty, when an object cannot be filed.
     static Acad::ErrorStatus write(AcDbDatabase* db, std::vector<std::uint8_t>& bytes);
     // Writes to a temporary file beside path and renames it over path, so that a good file
     // is never replaced by a partial one. eFilerError when the file cannot be written.

@@ -28,10 +28,11 @@ Acad::ErrorStatus DrawingFile::write(AcDbDatabase* db, std::vector<std::uint8_t>
 {
     if (db == nullptr)
         return Acad::eNoDatabase;
-    std::vector<std::uint8_t> out;
-    const Acad::ErrorStatus es = hostfile::DrawingFileWriter(db).write(out);
-    if (es == Acad::eOk)
-        bytes.swap(out);
+    // The writer frames the file into the memory of the bytes it replaces: saving a drawing
+    // again takes no fresh pages from the system.
+    const Acad::ErrorStatus es = hostfile::DrawingFileWriter(db).write(bytes);
+    if (es != Acad::eOk)
+        bytes.clear();
     return es;
 }
 

@@ -19,6 +19,10 @@ namespace hostfile {
 
 namespace {
 
+// Room made for each object before the first record is framed: a plain entity takes about
+// 200 bytes, a custom one with its graphics one to several kilobytes.
+constexpr std::size_t kBytesPerObjectGuess = 512;
+
 void putLittle(std::vector<std::uint8_t>& out, std::uint64_t value, int bytes)
 {
     for (int i = 0; i < bytes; ++i)
@@ -184,42 +188,34 @@ std::vector<std::uint8_t> DrawingFileWriter::objectPayload(const ObjectOut& obje
 
 Acad::ErrorStatus DrawingFileWriter::write(std::vector<std::uint8_t>& out)
 {
-    // Object records are framed as soon as they are filed; the class table they fill goes
-    // before them in the file.
-    std::vector<std::uint8_t> objectFrames;
-    std::uint32_t objectCount = 0;
-    for (const AcDbObjectId& id : headless::DatabaseAccess::objectIds(m_db)) {
+    const std::vector<AcDbObjectId> ids = headless::DatabaseAccess::objectIds(m_db);
+    // The class table goes before the objects: a first pass over the objects in memory
+    // numbers the classes in the order the objects first use them, so that every record is
+    // framed straight into the file's bytes, without a second buffer to copy.
+    std::vector<const AcDbObject*> filed;
+    filed.reserve(ids.size());
+    for (const AcDbObjectId& id : ids) {
         if (!id.isResident() || id.isErased())
             continue;  // erased objects are not filed; references to them keep their handles
-        ReadAccess access(id);
-        const AcDbObject* obj = access.object();
-        if (obj == nullptr) {
-            ACHAR handle[17];
-            id.handle().getIntoAsciiBuffer(handle);
-            acutPrintf(L"\nThe drawing cannot be saved: object %s cannot be opened for read (%s).", handle,
-                       acadErrorStatusText(access.status()));
-            return access.status();
-        }
-        const ProxyData* proxy = ProxyAccess::dataOf(obj);
+        const AcDbObject* held = AcDbStub::objectOf(id);
+        const ProxyData* proxy = held != nullptr ? ProxyAccess::dataOf(held) : nullptr;
         if (proxy != nullptr && proxy->cls.name.isEmpty())
             continue;  // a proxy that no drawing made has nothing to keep
-        ObjectOut object;
-        const Acad::ErrorStatus es = fileObject(obj, object);
-        if (es != Acad::eOk) {
-            ACHAR handle[17];
-            obj->handle().getIntoAsciiBuffer(handle);
-            acutPrintf(L"\nThe drawing cannot be saved: object %s (%s) could not be filed: %s.", handle,
-                       obj->isA() != nullptr ? obj->isA()->name() : L"?", acadErrorStatusText(es));
-            return es;
-        }
-        frame(objectFrames, kObjectRecord, objectPayload(object));
-        ++objectCount;
+        if (proxy != nullptr)
+            classIndexOf(proxy->cls);
+        else if (held != nullptr)
+            classIndexOf(held->isA());
+        filed.push_back(held);
     }
+    const std::size_t classCount = m_classes.size();
 
+    m_out.swap(out);
+    m_out.clear();
+    m_out.reserve(kHeaderBytes + filed.size() * kBytesPerObjectGuess);
     m_out.assign(std::begin(kMagic), std::end(kMagic));
     putLittle(m_out, kFormatMajor, 2);
     putLittle(m_out, kFormatMinor, 2);
-    const auto frameCount = static_cast<std::uint32_t>(1 + m_classes.size() + objectCount + 1);
+    const auto frameCount = static_cast<std::uint32_t>(1 + m_classes.size() + filed.size() + 1);
     putLittle(m_out, frameCount, 4);
     putLittle(m_out, m_db->handseed().value(), 8);
     putLittle(m_out, 0, 4);  // flags, none defined
@@ -232,7 +228,38 @@ Acad::ErrorStatus DrawingFileWriter::write(std::vector<std::uint8_t>& out)
         m_classes[i].writeTo(&filer);
         frame(m_out, kClassRecord, filer.bytes());
     }
-    m_out.insert(m_out.end(), objectFrames.begin(), objectFrames.end());
+    for (const AcDbObjectId& id : ids) {
+        if (!id.isResident() || id.isErased())
+            continue;
+        const AcDbObject* held = AcDbStub::objectOf(id);
+        if (held != nullptr) {
+            const ProxyData* proxy = ProxyAccess::dataOf(held);
+            if (proxy != nullptr && proxy->cls.name.isEmpty())
+                continue;
+        }
+        ReadAccess access(id);
+        const AcDbObject* obj = access.object();
+        if (obj == nullptr) {
+            ACHAR handle[17];
+            id.handle().getIntoAsciiBuffer(handle);
+            acutPrintf(L"\nThe drawing cannot be saved: object %s cannot be opened for read (%s).", handle,
+                       acadErrorStatusText(access.status()));
+            return access.status();
+        }
+        ObjectOut object;
+        const Acad::ErrorStatus es = fileObject(obj, object);
+        if (es != Acad::eOk) {
+            ACHAR handle[17];
+            obj->handle().getIntoAsciiBuffer(handle);
+            acutPrintf(L"\nThe drawing cannot be saved: object %s (%s) could not be filed: %s.", handle,
+                       obj->isA() != nullptr ? obj->isA()->name() : L"?", acadErrorStatusText(es));
+            return es;
+        }
+        frame(m_out, kObjectRecord, objectPayload(object));
+    }
+    // Every class was numbered by the first pass; one that was not would stand nowhere.
+    if (m_classes.size() != classCount)
+        return Acad::eInvalidInput;
     std::vector<std::uint8_t> end;
     putLittle(end, m_frames, 4);
     frame(m_out, kEndRecord, end);

@@ -18,6 +18,7 @@ class DrawingFileWriter {
 public:
     explicit DrawingFileWriter(AcDbDatabase* db) : m_db(db) {}
 
+    // The file into out, reusing its memory; on failure out holds nothing of use.
     Acad::ErrorStatus write(std::vector<std::uint8_t>& out);
 
 private:
