@@ -31,10 +31,14 @@ bool TakeMember(const JsonText::Value& object, const wchar_t* key, T& out, Test 
 
 bool JsonText::Parse(const AcString& text, Document& document, std::size_t& errorOffset)
 {
-    std::wstring safe(text.kwszPtr(), static_cast<std::size_t>(text.length()));
-    Qx::JsonNumberUtil::ZeroNumbersAsPlainZero(safe);
+    const std::size_t length = static_cast<std::size_t>(text.length());
+    std::wstring rewritten;
+    if (Qx::JsonNumberUtil::HasZeroDouble(text.kwszPtr(), length)) {
+        rewritten.assign(text.kwszPtr(), length);
+        Qx::JsonNumberUtil::ZeroNumbersAsPlainZero(rewritten);
+    }
     Document parsed(nullptr, kParserStackCapacity);
-    parsed.Parse<kParseFlags>(safe.c_str());
+    parsed.Parse<kParseFlags>(rewritten.empty() ? text.kwszPtr() : rewritten.c_str());
     if (parsed.HasParseError()) {
         errorOffset = parsed.GetErrorOffset();
         return false;

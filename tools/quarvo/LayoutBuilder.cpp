@@ -36,9 +36,15 @@ const std::vector<LayoutKind>& LayoutBuilder::Kinds()
 
 void LayoutBuilder::Parse(const std::string& text, rapidjson::Document& document)
 {
-    std::string safe = text;
-    Qx::JsonNumberUtil::ZeroNumbersAsPlainZero(safe);
-    document.Parse<rapidjson::kParseIterativeFlag | rapidjson::kParseFullPrecisionFlag>(safe.c_str(), safe.size());
+    std::string rewritten;
+    const bool rewrite = Qx::JsonNumberUtil::HasZeroDouble(text.data(), text.size());
+    if (rewrite) {
+        rewritten = text;
+        Qx::JsonNumberUtil::ZeroNumbersAsPlainZero(rewritten);
+    }
+    const std::string& parsedText = rewrite ? rewritten : text;
+    document.Parse<rapidjson::kParseIterativeFlag | rapidjson::kParseFullPrecisionFlag>(parsedText.c_str(),
+                                                                                        parsedText.size());
     if (document.HasParseError()) {
         const std::size_t offset = std::min(document.GetErrorOffset(), text.size());
         std::size_t line = 1;

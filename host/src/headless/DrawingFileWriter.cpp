@@ -192,7 +192,7 @@ Acad::ErrorStatus DrawingFileWriter::write(std::vector<std::uint8_t>& out)
     // The class table goes before the objects: a first pass over the objects in memory
     // numbers the classes in the order the objects first use them, so that every record is
     // framed straight into the file's bytes, without a second buffer to copy.
-    std::vector<const AcDbObject*> filed;
+    std::vector<AcDbObjectId> filed;
     filed.reserve(ids.size());
     for (const AcDbObjectId& id : ids) {
         if (!id.isResident() || id.isErased())
@@ -205,7 +205,7 @@ Acad::ErrorStatus DrawingFileWriter::write(std::vector<std::uint8_t>& out)
             classIndexOf(proxy->cls);
         else if (held != nullptr)
             classIndexOf(held->isA());
-        filed.push_back(held);
+        filed.push_back(id);
     }
     const std::size_t classCount = m_classes.size();
 
@@ -228,15 +228,7 @@ Acad::ErrorStatus DrawingFileWriter::write(std::vector<std::uint8_t>& out)
         m_classes[i].writeTo(&filer);
         frame(m_out, kClassRecord, filer.bytes());
     }
-    for (const AcDbObjectId& id : ids) {
-        if (!id.isResident() || id.isErased())
-            continue;
-        const AcDbObject* held = AcDbStub::objectOf(id);
-        if (held != nullptr) {
-            const ProxyData* proxy = ProxyAccess::dataOf(held);
-            if (proxy != nullptr && proxy->cls.name.isEmpty())
-                continue;
-        }
+    for (const AcDbObjectId& id : filed) {
         ReadAccess access(id);
         const AcDbObject* obj = access.object();
         if (obj == nullptr) {

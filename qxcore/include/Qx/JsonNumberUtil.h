@@ -17,8 +17,47 @@ struct JsonNumberUtil {
     template <typename Ch>
     static void ZeroNumbersAsPlainZero(std::basic_string<Ch>& text)
     {
-        const std::size_t n = text.size();
-        std::size_t i = 0;
+        std::size_t at = 0;
+        std::size_t end = 0;
+        while (NextZeroDouble(text.data(), text.size(), at, end)) {
+            if (text[at] == Ch('-'))
+                ++at;
+            text[at++] = Ch('0');
+            text[at++] = Ch('.');
+            text[at++] = Ch('0');
+            while (at < end)
+                text[at++] = Ch(' ');
+        }
+    }
+
+    // Whether the text holds such a number: nearly no text does, and it is then parsed as
+    // it stands, without a copy.
+    template <typename Ch>
+    static bool HasZeroDouble(const Ch* text, std::size_t size)
+    {
+        std::size_t at = 0;
+        std::size_t end = 0;
+        return NextZeroDouble(text, size, at, end);
+    }
+
+private:
+    template <typename Ch>
+    static bool IsDigit(Ch c)
+    {
+        return c >= Ch('0') && c <= Ch('9');
+    }
+
+    template <typename Ch>
+    static bool IsNumberCharacter(Ch c)
+    {
+        return IsDigit(c) || c == Ch('-') || c == Ch('+') || c == Ch('.') || c == Ch('e') || c == Ch('E');
+    }
+
+    // From `at`, the next all-zero double outside strings: true with [at, end) its text.
+    template <typename Ch>
+    static bool NextZeroDouble(const Ch* text, std::size_t n, std::size_t& at, std::size_t& end)
+    {
+        std::size_t i = at;
         while (i < n) {
             const Ch c = text[i];
             if (c == Ch('"')) {
@@ -32,44 +71,28 @@ struct JsonNumberUtil {
                 ++i;
                 continue;
             }
-            const std::size_t start = i;
-            const std::size_t end = ZeroDoubleEnd(text, i);
-            if (end == 0) {
-                // Not such a number: skip its characters, so that a digit within it is not
-                // taken for the start of another.
-                while (i < n &&
-                       (IsDigit(text[i]) || text[i] == Ch('-') || text[i] == Ch('+') || text[i] == Ch('.') ||
-                        text[i] == Ch('e') || text[i] == Ch('E')))
-                    ++i;
-                if (i == start)
-                    ++i;
-                continue;
+            const std::size_t found = ZeroDoubleEnd(text, n, i);
+            if (found != 0) {
+                at = i;
+                end = found;
+                return true;
             }
-            std::size_t at = start;
-            if (text[at] == Ch('-'))
-                ++at;
-            text[at++] = Ch('0');
-            text[at++] = Ch('.');
-            text[at++] = Ch('0');
-            while (at < end)
-                text[at++] = Ch(' ');
-            i = end;
+            // Not such a number: skip its characters, so that a digit within it is not
+            // taken for the start of another.
+            const std::size_t start = i;
+            while (i < n && IsNumberCharacter(text[i]))
+                ++i;
+            if (i == start)
+                ++i;
         }
-    }
-
-private:
-    template <typename Ch>
-    static bool IsDigit(Ch c)
-    {
-        return c >= Ch('0') && c <= Ch('9');
+        return false;
     }
 
     // The end of the number starting at `from` when it is one by JSON's grammar, its digits
     // are all zero and it has a fraction or an exponent (a double); zero otherwise.
     template <typename Ch>
-    static std::size_t ZeroDoubleEnd(const std::basic_string<Ch>& text, std::size_t from)
+    static std::size_t ZeroDoubleEnd(const Ch* text, std::size_t n, std::size_t from)
     {
-        const std::size_t n = text.size();
         std::size_t i = from;
         if (i < n && text[i] == Ch('-'))
             ++i;
