@@ -139,7 +139,7 @@ TEST(JsonTextTest, ZeroWithAnyExponentIsZero)
         const wchar_t* text;
         std::size_t offset;
     };
-    const Refused refused[] = {{L"[0e054 x]", 7}, {L"[00e54]", 2}, {L"[0e]", 3}, {L"[-0e99-1]", 6}};
+    const Refused refused[] = {{L"[0e054 x]", 7}, {L"[00e54]", 2}, {L"[0e]", 3}, {L"[-0e99-1]", 6}, {L"[0e0e054]", 4}};
     for (const Refused& row : refused) {
         SCOPED_TRACE(AcString(row.text));
         JsonText::Document document;

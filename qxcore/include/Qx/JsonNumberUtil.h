@@ -9,8 +9,8 @@ namespace Qx {
 struct JsonNumberUtil {
     // RapidJSON's full-precision conversion normalises a zero significand with a count of
     // leading zeros of 0, which is undefined ("0e99" and a zero with more than 22 decimals
-    // reach it). A double whose digits are all zero is exactly zero, so such numbers are
-    // written as "0.0" (or "-0.0") padded with spaces to the same length: the value, its
+    // reach it). A double whose digits are all zero is exactly zero, so such numbers of four
+    // characters or more are written as "0.0" (or "-0.0") padded with spaces: the value, its
     // type (a double) and the offsets of every later character, and so of any parse error,
     // stay as they were. Text in strings and text that is not a number by JSON's grammar
     // are left alone.
@@ -72,7 +72,11 @@ private:
                 continue;
             }
             const std::size_t found = ZeroDoubleEnd(text, n, i);
-            if (found != 0) {
+            const std::size_t digitsFrom = text[i] == Ch('-') ? i + 1 : i;
+            // Four characters at least, so that "0.0" leaves a space: the zero must not run
+            // into what follows it ("0e0e54" would become "0.0e54"). Shorter zeros never
+            // reach the conversion: it needs an exponent of two digits or 23 decimals.
+            if (found != 0 && found - digitsFrom >= 4) {
                 at = i;
                 end = found;
                 return true;
