@@ -121,11 +121,10 @@ void AecPanel::Imp::FlushLoopPolylines()
     }
 }
 
-// The hatch of the hatch information over the loops the polylines hold: the outline as the
-// external loop, the holes inside it; not associative (the panel rebuilds it itself).
 std::uint64_t AecPanel::Imp::HatchInputsNow() const
 {
-    // FNV-1a over the loops' vertices and the hatch information's characters.
+    // FNV-1a over the loops' vertices and the hatch information's characters: 64 bits, so
+    // that two different inputs taken for the same is not a practical concern.
     std::uint64_t digest = 14695981039346656037ull;
     const auto mix = [&digest](const void* data, std::size_t size) {
         const auto* bytes = static_cast<const unsigned char*>(data);
@@ -167,6 +166,8 @@ void AecPanel::Imp::AdoptHatchOf(const Imp& source)
     hatchInputs = source.hatchInputs;
 }
 
+// The hatch of the hatch information over the loops the polylines hold: the outline as the
+// external loop, the holes inside it; not associative (the panel rebuilds it itself).
 void AecPanel::Imp::FlushHatch()
 {
     const std::uint64_t inputs = HatchInputsNow();
