@@ -4,17 +4,17 @@
 #include <string>
 #include <utility>
 
-#include "Qx/JsonNumberUtil.h"
+#include "Qx/JsonExactParse.h"
 
 #include <rapidjson/stringbuffer.h>
 #include <rapidjson/writer.h>
 
 namespace {
 
-// Iterative: a hostile "[[[[..." must not exhaust the call stack. Full precision: a number
-// written by Write reads back bit for bit. Validated: text that is not Unicode is refused.
-constexpr unsigned kParseFlags =
-    rapidjson::kParseIterativeFlag | rapidjson::kParseFullPrecisionFlag | rapidjson::kParseValidateEncodingFlag;
+// Iterative: a hostile "[[[[..." must not exhaust the call stack. Validated: text that is not
+// Unicode is refused. Numbers are converted exactly (JsonExactParse), so a number written by
+// Write reads back bit for bit.
+constexpr unsigned kParseFlags = rapidjson::kParseIterativeFlag | rapidjson::kParseValidateEncodingFlag;
 
 // The member named key when it passes isType, read with take.
 template <typename T, typename Test, typename Take>
@@ -31,19 +31,12 @@ bool TakeMember(const JsonText::Value& object, const wchar_t* key, T& out, Test 
 
 bool JsonText::Parse(const AcString& text, Document& document, std::size_t& errorOffset)
 {
-    const std::size_t length = static_cast<std::size_t>(text.length());
-    std::wstring rewritten;
-    if (Qx::JsonNumberUtil::HasZeroDouble(text.kwszPtr(), length)) {
-        rewritten.assign(text.kwszPtr(), length);
-        Qx::JsonNumberUtil::ZeroNumbersAsPlainZero(rewritten);
-    }
-    Document parsed(nullptr, kParserStackCapacity);
-    parsed.Parse<kParseFlags>(rewritten.empty() ? text.kwszPtr() : rewritten.c_str());
-    if (parsed.HasParseError()) {
-        errorOffset = parsed.GetErrorOffset();
+    rapidjson::GenericStringStream<Encoding> stream(text.kwszPtr());
+    const rapidjson::ParseResult result = Qx::JsonExactParse::Parse<kParseFlags>(document, stream, text.kwszPtr());
+    if (result.IsError()) {
+        errorOffset = result.Offset();
         return false;
     }
-    document.Swap(parsed);
     return true;
 }
 

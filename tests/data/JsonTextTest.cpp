@@ -105,41 +105,47 @@ TEST(JsonTextTest, NumbersReadBackBitForBit)
     }
 }
 
-TEST(JsonTextTest, ZeroWithAnyExponentIsZero)
+TEST(JsonTextTest, NumbersOfManyDigitsOrLargeExponentsReadExactly)
 {
-    // RapidJSON's full-precision conversion of an all-zero significand with a large decimal
-    // exponent (written, or of more than 22 decimals) is undefined behaviour; such numbers
-    // are exactly zero.
+    // Numbers that RapidJSON's own full-precision conversion gets wrong in undefined ways:
+    // zeros with large exponents or hundreds of decimals, long fractions far below one.
+    const std::wstring zeros400(400, L'0');
     struct Row {
-        const wchar_t* number;
+        std::wstring number;
+        double value;
         bool negative;
     };
-    const Row rows[] = {{L"0e054", false},
-                        {L"-0e99", true},
-                        {L"0.000E+400", false},
-                        {L"-0.0e-400", true},
-                        {L"0e23", false},
-                        {L"0.000000000000000000000000000000", false},
-                        {L"-0.00000000000000000000000", true}};
+    const Row rows[] = {
+        {L"0e054", 0.0, false},
+        {L"-0e99", 0.0, true},
+        {L"0." + zeros400, 0.0, false},
+        {L"-0." + zeros400 + L"1774394289", 0.0, true},  // below the smallest double: zero
+        {L"0." + zeros400 + L"1774394289e400", 0.1774394289, false},
+        {L"0.1000000000000000055511151231257827021181583404541015625", 0.1, false},
+        {L"4.9406564584124654e-324", 4.9406564584124654e-324, false},
+        {L"123456789012345678901234567890", 1.2345678901234568e29, false},
+    };
     for (const Row& row : rows) {
-        SCOPED_TRACE(AcString(row.number));
-        const AcString text = AcString(L"{\"v\":") + row.number + L",\"s\":\"0e99\"}";
-        const JsonText::Document document = Parsed(text);
+        SCOPED_TRACE(AcString(row.number.c_str()));
+        const std::wstring text = L"{\"v\":" + row.number + L",\"s\":\"0e99\"}";
+        const JsonText::Document document = Parsed(text.c_str());
         double read = 1.0;
         ASSERT_TRUE(JsonText::GetDouble(document, L"v", read));
-        EXPECT_EQ(read, 0.0);
+        EXPECT_EQ(read, row.value);
         EXPECT_EQ(std::signbit(read), row.negative);
         AcString untouched;
         ASSERT_TRUE(JsonText::GetString(document, L"s", untouched));
         EXPECT_EQ(untouched, AcString(L"0e99"));
     }
-    // An error after such a number is found where it stands; text that is not a number by
-    // JSON's grammar stays refused.
+    // Errors stand where RapidJSON finds them: a number's start, or where the grammar breaks.
     struct Refused {
         const wchar_t* text;
         std::size_t offset;
     };
-    const Refused refused[] = {{L"[0e054 x]", 7}, {L"[00e54]", 2}, {L"[0e]", 3}, {L"[-0e99-1]", 6}, {L"[0e0e054]", 4}};
+    const Refused refused[] = {
+        {L"[0e054 x]", 7}, {L"[00e54]", 2},        {L"[0e]", 3},        {L"[-0e99-1]", 6},
+        {L"[0e0e054]", 4}, {L"[1e308, 2e308]", 8}, {L"[0.000E+400]", 1}};  // RapidJSON refuses exponents beyond 308,
+                                                                           // even of zero
     for (const Refused& row : refused) {
         SCOPED_TRACE(AcString(row.text));
         JsonText::Document document;
@@ -147,6 +153,29 @@ TEST(JsonTextTest, ZeroWithAnyExponentIsZero)
         EXPECT_FALSE(JsonText::Parse(row.text, document, offset));
         EXPECT_EQ(offset, row.offset);
     }
+}
+
+TEST(JsonTextTest, IntegersKeepTheirTypes)
+{
+    const JsonText::Document document =
+        Parsed(L"[0, -0, 7, -7, 4294967295, 4294967296, -2147483648, -2147483649, 18446744073709551615, "
+               L"18446744073709551616, -9223372036854775809]");
+    ASSERT_TRUE(document.IsArray());
+    EXPECT_TRUE(document[0].IsUint());
+    EXPECT_TRUE(document[1].IsInt());
+    EXPECT_FALSE(document[1].IsDouble());
+    EXPECT_TRUE(document[2].IsUint());
+    EXPECT_EQ(document[3].GetInt(), -7);
+    EXPECT_EQ(document[4].GetUint(), 4294967295u);
+    EXPECT_FALSE(document[5].IsUint());
+    EXPECT_EQ(document[5].GetUint64(), 4294967296u);
+    EXPECT_EQ(document[6].GetInt(), INT32_MIN);
+    EXPECT_FALSE(document[7].IsInt());
+    EXPECT_EQ(document[7].GetInt64(), -2147483649LL);
+    EXPECT_EQ(document[8].GetUint64(), UINT64_MAX);
+    EXPECT_TRUE(document[9].IsDouble());
+    EXPECT_EQ(document[9].GetDouble(), 18446744073709551616.0);
+    EXPECT_TRUE(document[10].IsDouble());
 }
 
 TEST(JsonTextTest, TheWriterRefusesWhatJsonCannotHold)

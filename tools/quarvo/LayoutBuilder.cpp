@@ -1,7 +1,9 @@
 // LayoutBuilder: the kinds of a layout description and the order they are built in.
 #include "LayoutBuilder.h"
 
+#include <rapidjson/encodedstream.h>
 #include <rapidjson/error/en.h>
+#include <rapidjson/memorystream.h>
 
 #include "CircleOpeningBuilder.h"
 #include "DivisionLineBuilder.h"
@@ -15,7 +17,7 @@
 #include "SteelMemberBuilder.h"
 #include "StructuralLineBuilder.h"
 #include "Progress.h"
-#include "Qx/JsonNumberUtil.h"
+#include "Qx/JsonExactParse.h"
 
 namespace quarvo {
 
@@ -36,17 +38,12 @@ const std::vector<LayoutKind>& LayoutBuilder::Kinds()
 
 void LayoutBuilder::Parse(const std::string& text, rapidjson::Document& document)
 {
-    std::string rewritten;
-    const bool rewrite = Qx::JsonNumberUtil::HasZeroDouble(text.data(), text.size());
-    if (rewrite) {
-        rewritten = text;
-        Qx::JsonNumberUtil::ZeroNumbersAsPlainZero(rewritten);
-    }
-    const std::string& parsedText = rewrite ? rewritten : text;
-    document.Parse<rapidjson::kParseIterativeFlag | rapidjson::kParseFullPrecisionFlag>(parsedText.c_str(),
-                                                                                        parsedText.size());
-    if (document.HasParseError()) {
-        const std::size_t offset = std::min(document.GetErrorOffset(), text.size());
+    rapidjson::MemoryStream bytes(text.data(), text.size());
+    rapidjson::EncodedInputStream<rapidjson::UTF8<>, rapidjson::MemoryStream> stream(bytes);
+    const rapidjson::ParseResult result =
+        Qx::JsonExactParse::Parse<rapidjson::kParseIterativeFlag>(document, stream, text.data());
+    if (result.IsError()) {
+        const std::size_t offset = std::min(result.Offset(), text.size());
         std::size_t line = 1;
         std::size_t column = 1;
         for (std::size_t i = 0; i < offset; ++i) {
@@ -58,7 +55,7 @@ void LayoutBuilder::Parse(const std::string& text, rapidjson::Document& document
             }
         }
         throw LayoutError("line " + std::to_string(line) + ", column " + std::to_string(column),
-                          std::string("not JSON: ") + rapidjson::GetParseError_En(document.GetParseError()));
+                          std::string("not JSON: ") + rapidjson::GetParseError_En(result.Code()));
     }
     if (JsonObjectReader::Depth(document) > kMaxDepth)
         throw LayoutError("", "nested deeper than " + std::to_string(kMaxDepth) + " levels");
