@@ -24,6 +24,8 @@ public:
                   const ACHAR* styleName = nullptr);
     AcGiTextStyle(const AcGiTextStyle&) = default;
     AcGiTextStyle& operator=(const AcGiTextStyle&) = default;
+    AcGiTextStyle(AcGiTextStyle&&) noexcept = default;
+    AcGiTextStyle& operator=(AcGiTextStyle&&) noexcept = default;
     virtual ~AcGiTextStyle() = default;
 
     // Makes the style usable for drawing. The headless host has no font cache to fill;

@@ -3,6 +3,7 @@
 
 #include <cmath>
 #include <cwchar>
+#include <type_traits>
 
 #include "AcDbPolyline.h"
 #include "AcGiDrawable.h"
@@ -11,6 +12,11 @@
 #include "headless/HostError.h"
 #include "headless/RecordingWorldDraw.h"
 #include "poly/PolylineView.h"
+
+// A regen records tens of thousands of primitives into one vector: they must move, not be
+// copied, when it grows.
+static_assert(std::is_nothrow_move_constructible_v<headless::RecordedPrimitive>,
+              "recorded primitives are copied whenever the recording grows");
 
 using headless::PrimitiveKind;
 using headless::RecordedPrimitive;
