@@ -24,13 +24,10 @@ public:
     using Value = rapidjson::GenericValue<Encoding>;
     using Allocator = Document::AllocatorType;
 
-    // The parser's own stack starts this large (bytes) and grows with the nesting; the
-    // parse is iterative, so deep nesting costs heap, never the call stack.
-    static constexpr std::size_t kParserStackCapacity = 1024;
-
-    // Parses text (numbers to full precision, strings validated) into document, replacing
-    // what it held. On failure answers false, leaves document as it was and sets
-    // errorOffset to the character where the parser stopped.
+    // Parses text (numbers exactly, strings validated; iterative, so deep nesting costs heap,
+    // never the call stack) into document, replacing what it held. On failure answers false,
+    // leaves document as it was and sets errorOffset to the character where the parser
+    // stopped.
     static bool Parse(const AcString& text, Document& document, std::size_t& errorOffset);
     // Compact text of value. False, text untouched, when a number is NaN or infinite.
     static bool Write(const Value& value, AcString& text);
