@@ -146,25 +146,32 @@ bool PolygonInnerPoint::Find(const std::vector<AcGePoint2d>& polygon, AcGePoint2
         return cell;
     };
 
+    // A cell that cannot beat the best by more than the precision is never split, so it is
+    // not queued at all: the queue of a polygon with a far-out spike would otherwise hold
+    // hundreds of thousands of such cells.
     std::priority_queue<Cell, std::vector<Cell>, ByPotential> queue;
+    auto consider = [&](const Cell& cell) {
+        bestDistance = std::max(bestDistance, cell.distance);
+        if (cell.potential - bestDistance > precision)
+            queue.push(cell);
+    };
+    consider(makeCell(centroid, 0.0));
+    consider(makeCell(boxCenter, 0.0));
     const double half = cellSize * 0.5;
     for (int column = 0; column < columns; ++column) {
         for (int row = 0; row < rows; ++row)
-            queue.push(makeCell(AcGePoint2d(minX + column * cellSize + half, minY + row * cellSize + half), half));
+            consider(makeCell(AcGePoint2d(minX + column * cellSize + half, minY + row * cellSize + half), half));
     }
-    bestDistance = std::max(bestDistance, makeCell(centroid, 0.0).distance);
-    bestDistance = std::max(bestDistance, makeCell(boxCenter, 0.0).distance);
 
     while (!queue.empty() && evaluations < kEvaluationBudget) {
         const Cell cell = queue.top();
         queue.pop();
-        bestDistance = std::max(bestDistance, cell.distance);
         if (cell.potential - bestDistance <= precision)
             continue;
         const double quarter = cell.half * 0.5;
         for (const double dx : {-quarter, quarter}) {
             for (const double dy : {-quarter, quarter})
-                queue.push(makeCell(AcGePoint2d(cell.center.x + dx, cell.center.y + dy), quarter));
+                consider(makeCell(AcGePoint2d(cell.center.x + dx, cell.center.y + dy), quarter));
         }
         if (candidates.size() > pruneAt) {
             const double floor = bestDistance - precision;
