@@ -18,10 +18,15 @@ constexpr double kPi = 3.14159265358979323846;
 // Arcs flatten into segments of at most this angle when their extents are measured.
 constexpr double kExtentsStep = kPi / 36.0;
 
+// Scaled by its largest component first: the length of (1e200, 1e200, 0) overflows to
+// infinity and would make a zero "unit" vector, which no plane can be built on.
 AcGeVector3d unitOr(const AcGeVector3d& v, const AcGeVector3d& fallback)
 {
-    const double length = v.length();
-    return length > 0.0 ? v / length : fallback;
+    const double largest = std::max({std::fabs(v.x), std::fabs(v.y), std::fabs(v.z)});
+    if (!(largest > 0.0) || !std::isfinite(largest))
+        return fallback;
+    const AcGeVector3d scaled = v / largest;
+    return scaled / scaled.length();
 }
 
 AcGeVector3d moved(const AcGeVector3d& v, const AcGeMatrix3d& xform)
@@ -262,8 +267,12 @@ void PrimitiveGeometry::replay(const RecordedPrimitive& p, AcGiWorldGeometry& ge
         break;
     case PrimitiveKind::kArc:
         if (count >= 1 && p.vectors.size() >= 2 && p.numbers.size() >= 2) {
-            const auto type = static_cast<AcGiArcType>(p.integers.empty() ? 0 : p.integers[0]);
-            geometry.circularArc(p.points[0], p.numbers[0], p.vectors[0], p.vectors[1], p.numbers[1], type);
+            // A kept arc of a type the host does not know is damaged and not drawn.
+            const Adesk::Int64 type = p.integers.empty() ? Adesk::Int64{kAcGiArcSimple} : p.integers[0];
+            if (type >= kAcGiArcSimple && type <= kAcGiArcChord) {
+                geometry.circularArc(p.points[0], p.numbers[0], p.vectors[0], p.vectors[1], p.numbers[1],
+                                     static_cast<AcGiArcType>(type));
+            }
         }
         break;
     case PrimitiveKind::kPolyline:
