@@ -160,6 +160,7 @@ Adesk::Boolean RecordingGeometry::polyline(const Adesk::UInt32 nbPoints, const A
     const AcGeMatrix3d xform = m_state.modelToWorld();
     RecordedPrimitive prim;
     prim.kind = PrimitiveKind::kPolyline;
+    prim.points.reserve(nbPoints);
     for (Adesk::UInt32 i = 0; i < nbPoints; ++i)
         prim.points.push_back(transformed(xform, vertexList[i]));
     if (normal != nullptr)
