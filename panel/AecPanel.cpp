@@ -100,6 +100,7 @@ BoundarySetResult AecPanel::TrySetLoopFromPointsWithBulgesAt(int loop, const AcA
     if (bulges.length() != 0 && bulges.length() != points.length())
         return BoundarySetResult::kBulgeCountMismatch;
     PanelLoop vertices;
+    vertices.reserve(static_cast<std::size_t>(points.length()));
     for (int i = 0; i < points.length(); ++i) {
         const double bulge = bulges.length() != 0 ? bulges[i] : 0.0;
         if (!IsFinite(points[i]) || !std::isfinite(bulge))

@@ -87,7 +87,8 @@ bool AecPanel::Imp::FitsPolyline(const PanelLoop& loop)
 
 std::shared_ptr<AcDbPolyline> AecPanel::Imp::MakePolyline(const PanelLoop& loop)
 {
-    auto polyline = std::make_shared<AcDbPolyline>();
+    // Sized once: a panel keeps its loops' polylines as long as it lives.
+    auto polyline = std::make_shared<AcDbPolyline>(static_cast<unsigned int>(loop.size()));
     for (std::size_t i = 0; i < loop.size(); ++i)
         polyline->addVertexAt(static_cast<unsigned int>(i), loop[i].point, loop[i].bulge);
     polyline->setClosed(Adesk::kTrue);

@@ -236,6 +236,8 @@ Acad::ErrorStatus AcDbHatch::makeLoop(Adesk::Int32 loopType, const AcGePoint2dAr
 {
     if (bulges.length() != 0 && bulges.length() != vertices.length())
         return Acad::eInvalidInput;
+    loop.vertices.reserve(static_cast<std::size_t>(vertices.length()));
+    loop.bulges.reserve(static_cast<std::size_t>(vertices.length()));
     for (int i = 0; i < vertices.length(); ++i) {
         const double bulge = bulges.length() != 0 ? bulges[i] : 0.0;
         if (!std::isfinite(vertices[i].x) || !std::isfinite(vertices[i].y) || !std::isfinite(bulge))

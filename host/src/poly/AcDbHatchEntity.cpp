@@ -116,6 +116,8 @@ Acad::ErrorStatus AcDbHatch::computeLines(std::vector<Line2d>& lines) const
         hostpoly::clipPatternLines(boundaries, hostpoly::nestingDepths(boundaries), m_style, pattern, pieces);
     if (es != Acad::eOk)
         return es;
+    // Sized once: an evaluated hatch keeps its lines as long as it lives.
+    lines.reserve(pieces.size());
     for (const hostpoly::HatchSegment& piece : pieces)
         lines.push_back({piece.start, piece.end});
     return Acad::eOk;
