@@ -79,14 +79,15 @@ Adesk::Boolean RecordingGeometry::circle(const AcGePoint3d& center, const double
                                          const AcGeVector3d& normal) const
 {
     const AcGeMatrix3d xform = m_state.modelToWorld();
-    RecordedPrimitive prim;
-    prim.kind = PrimitiveKind::kCircle;
-    prim.points = {transformed(xform, center)};
-    prim.vectors = {transformNormal(xform, normal)};
+    RecordedPrimitive* prim = m_state.startRecord(PrimitiveKind::kCircle);
+    if (prim == nullptr)
+        return true;
+    prim->points = {transformed(xform, center)};
+    prim->vectors = {transformNormal(xform, normal)};
     // A circle stays a circle only under uniform scaling; the scale along the plane's
     // x axis is the one recorded.
-    prim.numbers = {radius * transformed(xform, ocsXAxis(normal)).length()};
-    return !m_state.record(std::move(prim));
+    prim->numbers = {radius * transformed(xform, ocsXAxis(normal)).length()};
+    return false;
 }
 
 Adesk::Boolean RecordingGeometry::circle(const AcGePoint3d& p1, const AcGePoint3d& p2, const AcGePoint3d& p3) const
@@ -114,13 +115,14 @@ Adesk::Boolean RecordingGeometry::circularArc(const AcGePoint3d& center, const d
 
     const AcGeVector3d worldU = transformed(xform, u);
     const AcGeVector3d worldV = transformed(xform, v);
-    RecordedPrimitive prim;
-    prim.kind = PrimitiveKind::kArc;
-    prim.points = {transformed(xform, center), transformed(xform, start), transformed(xform, end)};
-    prim.vectors = {unitOr(worldU.crossProduct(worldV), n), unitOr(worldU, u)};
-    prim.numbers = {radius * worldU.length(), sweepAngle};
-    prim.integers = {static_cast<Adesk::Int64>(arcType)};
-    return !m_state.record(std::move(prim));
+    RecordedPrimitive* prim = m_state.startRecord(PrimitiveKind::kArc);
+    if (prim == nullptr)
+        return true;
+    prim->points = {transformed(xform, center), transformed(xform, start), transformed(xform, end)};
+    prim->vectors = {unitOr(worldU.crossProduct(worldV), n), unitOr(worldU, u)};
+    prim->numbers = {radius * worldU.length(), sweepAngle};
+    prim->integers = {static_cast<Adesk::Int64>(arcType)};
+    return false;
 }
 
 Adesk::Boolean RecordingGeometry::circularArc(const AcGePoint3d& start, const AcGePoint3d& point,
@@ -143,12 +145,13 @@ Adesk::Boolean RecordingGeometry::recordPoints(PrimitiveKind kind, Adesk::UInt32
         headless::raiseHostError(L"AcGiGeometry::%S: %u vertices announced but no vertex list given", call,
                                  static_cast<unsigned>(count));
     const AcGeMatrix3d xform = m_state.modelToWorld();
-    RecordedPrimitive prim;
-    prim.kind = kind;
-    prim.points.reserve(count);
+    RecordedPrimitive* prim = m_state.startRecord(kind);
+    if (prim == nullptr)
+        return true;
+    prim->points.reserve(count);
     for (Adesk::UInt32 i = 0; i < count; ++i)
-        prim.points.push_back(transformed(xform, points[i]));
-    return !m_state.record(std::move(prim));
+        prim->points.push_back(transformed(xform, points[i]));
+    return false;
 }
 
 Adesk::Boolean RecordingGeometry::polyline(const Adesk::UInt32 nbPoints, const AcGePoint3d* vertexList,
@@ -158,15 +161,16 @@ Adesk::Boolean RecordingGeometry::polyline(const Adesk::UInt32 nbPoints, const A
         headless::raiseHostError(L"AcGiGeometry::polyline: %u vertices announced but no vertex list given",
                                  static_cast<unsigned>(nbPoints));
     const AcGeMatrix3d xform = m_state.modelToWorld();
-    RecordedPrimitive prim;
-    prim.kind = PrimitiveKind::kPolyline;
-    prim.points.reserve(nbPoints);
+    RecordedPrimitive* prim = m_state.startRecord(PrimitiveKind::kPolyline);
+    if (prim == nullptr)
+        return true;
+    prim->points.reserve(nbPoints);
     for (Adesk::UInt32 i = 0; i < nbPoints; ++i)
-        prim.points.push_back(transformed(xform, vertexList[i]));
+        prim->points.push_back(transformed(xform, vertexList[i]));
     if (normal != nullptr)
-        prim.vectors = {transformNormal(xform, *normal)};
-    prim.integers = {static_cast<Adesk::Int64>(baseSubEntMarker)};
-    return !m_state.record(std::move(prim));
+        prim->vectors = {transformNormal(xform, *normal)};
+    prim->integers = {static_cast<Adesk::Int64>(baseSubEntMarker)};
+    return false;
 }
 
 Adesk::Boolean RecordingGeometry::polyline(const AcGiPolyline& polylineObj) const
@@ -187,24 +191,27 @@ Adesk::Boolean RecordingGeometry::pline(const AcDbPolyline& lwBuf, Adesk::UInt32
     // Widths scale as a circle's radius does; the normal is carried as an arc's, so that
     // the bulges keep their sense about it.
     const double scale = transformed(xform, ocsXAxis(normal)).length();
-    RecordedPrimitive prim;
-    prim.kind = PrimitiveKind::kPline;
-    prim.vectors = {transformNormal(xform, normal)};
     // One view of the polyline for all its vertices: the vertex queries each build the
     // plane's axes anew.
     const hostpoly::PolylineView view(lwBuf);
     const int count = view.numVerts();
-    prim.points.reserve(static_cast<std::size_t>(count));
-    prim.numbers.reserve(1 + 3 * static_cast<std::size_t>(count));
-    prim.numbers = {0.0};
+    RecordedPrimitive* prim = m_state.startRecord(PrimitiveKind::kPline);
+    if (prim == nullptr)
+        return true;
+    prim->vectors = {transformNormal(xform, normal)};
+    prim->points.reserve(static_cast<std::size_t>(count));
+    prim->numbers.reserve(1 + 3 * static_cast<std::size_t>(count));
+    prim->numbers = {0.0};
     for (int i = 0; i < count; ++i) {
-        prim.points.push_back(transformed(xform, view.worldPoint(i)));
-        prim.numbers.insert(prim.numbers.end(), {view.bulge(i), view.startWidth(i) * scale, view.endWidth(i) * scale});
+        prim->points.push_back(transformed(xform, view.worldPoint(i)));
+        prim->numbers.insert(prim->numbers.end(),
+                             {view.bulge(i), view.startWidth(i) * scale, view.endWidth(i) * scale});
     }
-    prim.numbers[0] = prim.points.empty() ? lwBuf.elevation() : prim.points[0].asVector().dotProduct(prim.vectors[0]);
-    prim.integers = {static_cast<Adesk::Int64>(fromIndex), static_cast<Adesk::Int64>(numSegs),
-                     lwBuf.isClosed() ? 1 : 0};
-    return !m_state.record(std::move(prim));
+    prim->numbers[0] =
+        prim->points.empty() ? lwBuf.elevation() : prim->points[0].asVector().dotProduct(prim->vectors[0]);
+    prim->integers = {static_cast<Adesk::Int64>(fromIndex), static_cast<Adesk::Int64>(numSegs),
+                      lwBuf.isClosed() ? 1 : 0};
+    return false;
 }
 
 Adesk::Boolean RecordingGeometry::mesh(const Adesk::UInt32 rows, const Adesk::UInt32 columns,
@@ -249,22 +256,23 @@ Adesk::Boolean RecordingGeometry::recordText(const AcGePoint3d& position, const 
     const double dirScale = worldDir.length();
     const double upScale = worldUp.length();
 
-    RecordedPrimitive prim;
-    prim.kind = PrimitiveKind::kText;
-    prim.points = {transformed(xform, position)};
-    prim.vectors = {unitOr(worldDir.crossProduct(worldUp), n), unitOr(worldDir, dir)};
-    prim.style = style;
+    RecordedPrimitive* prim = m_state.startRecord(PrimitiveKind::kText);
+    if (prim == nullptr)
+        return true;
+    prim->points = {transformed(xform, position)};
+    prim->vectors = {unitOr(worldDir.crossProduct(worldUp), n), unitOr(worldDir, dir)};
+    prim->style = style;
     // The text keeps its proportions in world terms: the height follows the scale across
     // the text, the width factor the ratio of the scales along and across it.
     if (upScale > 0.0) {
-        prim.style.setTextSize(style.textSize() * upScale);
-        prim.style.setXScale(style.xScale() * dirScale / upScale);
+        prim->style.setTextSize(style.textSize() * upScale);
+        prim->style.setXScale(style.xScale() * dirScale / upScale);
     }
-    prim.numbers = {prim.style.textSize(), prim.style.xScale(), prim.style.obliquingAngle(),
-                    prim.style.trackingPercent()};
-    prim.text = std::move(text);
-    prim.integers = {raw ? 1 : 0};
-    return !m_state.record(std::move(prim));
+    prim->numbers = {prim->style.textSize(), prim->style.xScale(), prim->style.obliquingAngle(),
+                     prim->style.trackingPercent()};
+    prim->text = std::move(text);
+    prim->integers = {raw ? 1 : 0};
+    return false;
 }
 
 Adesk::Boolean RecordingGeometry::text(const AcGePoint3d& position, const AcGeVector3d& normal,
@@ -304,10 +312,11 @@ Adesk::Boolean RecordingGeometry::ray(const AcGePoint3d& base, const AcGePoint3d
 
 Adesk::Boolean RecordingGeometry::worldLine(const AcGePoint3d points[2])
 {
-    RecordedPrimitive prim;
-    prim.kind = PrimitiveKind::kWorldLine;
-    prim.points = {points[0], points[1]};
-    return !m_state.record(std::move(prim));
+    RecordedPrimitive* prim = m_state.startRecord(PrimitiveKind::kWorldLine);
+    if (prim == nullptr)
+        return true;
+    prim->points = {points[0], points[1]};
+    return false;
 }
 
 void RecordingGeometry::setExtents(AcGePoint3d* newExtents) const
@@ -321,12 +330,14 @@ Adesk::Boolean RecordingGeometry::pushClipBoundary(AcGiClipBoundary* boundary)
 {
     if (boundary == nullptr)
         headless::raiseHostError(L"AcGiGeometry::pushClipBoundary: no boundary given");
-    RecordedPrimitive prim;
-    prim.kind = PrimitiveKind::kClip;
-    for (int i = 0; i < boundary->m_aptPoints.length(); ++i)
-        prim.points.emplace_back(boundary->m_aptPoints[i].x, boundary->m_aptPoints[i].y, 0.0);
     ++m_state.clipDepth;
-    return !m_state.record(std::move(prim));
+    RecordedPrimitive* prim = m_state.startRecord(PrimitiveKind::kClip);
+    if (prim == nullptr)
+        return true;
+    prim->points.reserve(static_cast<std::size_t>(boundary->m_aptPoints.length()));
+    for (int i = 0; i < boundary->m_aptPoints.length(); ++i)
+        prim->points.emplace_back(boundary->m_aptPoints[i].x, boundary->m_aptPoints[i].y, 0.0);
+    return false;
 }
 
 void RecordingGeometry::popClipBoundary()
@@ -334,9 +345,7 @@ void RecordingGeometry::popClipBoundary()
     if (m_state.clipDepth == 0)
         headless::raiseHostError(L"AcGiGeometry::popClipBoundary: no clip boundary is pushed");
     --m_state.clipDepth;
-    RecordedPrimitive prim;
-    prim.kind = PrimitiveKind::kClipEnd;
-    m_state.record(std::move(prim));
+    m_state.startRecord(PrimitiveKind::kClipEnd);
 }
 
 Adesk::Boolean RecordingGeometry::draw(AcGiDrawable* drawable) const

@@ -45,17 +45,20 @@ struct RecordingState {
         return regenType == kAcGiStandardDisplay || regenType == kAcGiForExplode ? kAcGiFillNever
                                                                                  : kAcGiFillAlways;
     }
-    // Adds the primitive with the current traits and depth; false (nothing added) once aborted.
-    bool record(headless::RecordedPrimitive primitive)
+    // A new primitive of the kind, with the current traits and depth, built in place at the
+    // end of the record (moving a primitive costs as much as filling one); nullptr, nothing
+    // added, once aborted.
+    headless::RecordedPrimitive* startRecord(headless::PrimitiveKind kind)
     {
         if (aborted())
-            return false;
+            return nullptr;
+        headless::RecordedPrimitive& primitive = primitives.emplace_back();
+        primitive.kind = kind;
         primitive.traits = traits;
         primitive.depth = depth;
-        primitives.push_back(std::move(primitive));
         if (abortSet)
             --abortAfterCount;
-        return true;
+        return &primitive;
     }
 };
 
