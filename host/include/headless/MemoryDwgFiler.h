@@ -21,7 +21,7 @@ public:
     MemoryDwgFiler(std::vector<std::uint8_t> bytes, AcDb::FilerType type, AcDbDatabase* database);
     ~MemoryDwgFiler() override;
 
-    const std::vector<std::uint8_t>& bytes() const { return m_bytes; }
+    const std::vector<std::uint8_t>& bytes() const;
     // Hands the data over without a copy; the filer is then empty, at position 0.
     std::vector<std::uint8_t> takeBytes();
     // Replaces the data, moves to its start and clears the status.
@@ -34,7 +34,7 @@ public:
     bool createsStubs() const { return m_createStubs; }
     void setDwgVersion(AcDb::AcDbDwgVersion version, AcDb::MaintenanceReleaseVersion maintenance);
     // Bytes between the position and the end.
-    Adesk::UInt64 remaining() const { return m_bytes.size() - m_position; }
+    Adesk::UInt64 remaining() const { return m_end - m_position; }
 
     Acad::ErrorStatus filerStatus() const override { return m_status; }
     AcDb::FilerType filerType() const override { return m_type; }
@@ -124,7 +124,11 @@ private:
     Acad::ErrorStatus takeString(std::wstring& text);
     Acad::ErrorStatus fail(Acad::ErrorStatus status);
 
-    std::vector<std::uint8_t> m_bytes;
+    // Written values land in room made ahead (past m_end, zero filled, made in large steps):
+    // growing a vector by each value's few bytes cost more than writing them. bytes() cuts
+    // the room off, hence mutable.
+    mutable std::vector<std::uint8_t> m_bytes;
+    std::size_t m_end = 0;  // the data is m_bytes[0, m_end)
     std::size_t m_position = 0;
     AcDb::FilerType m_type;
     AcDbDatabase* m_database;

@@ -3,7 +3,6 @@
 
 #include <cstring>
 #include <iterator>
-#include <optional>
 
 #include "AcDbEntity.h"
 #include "DrawingFiler.h"
@@ -65,6 +64,12 @@ private:
 
 }  // namespace
 
+DrawingFileWriter::DrawingFileWriter(AcDbDatabase* db) : m_db(db)
+{
+    m_draw.setRegenType(kAcGiSaveWorldDrawForProxy);
+    m_draw.setDatabase(db);
+}
+
 Adesk::UInt32 DrawingFileWriter::classIndexOf(const ClassRecord& cls)
 {
     const std::wstring name = cls.name.kwszPtr();
@@ -97,6 +102,8 @@ Acad::ErrorStatus DrawingFileWriter::fileObject(const AcDbObject* obj, ObjectOut
     out.classIndex = proxy != nullptr ? classIndexOf(proxy->cls) : classIndexOf(obj->isA());
 
     DrawingFiler filer(m_db);
+    out.data.clear();
+    filer.setBytes(std::move(out.data));
     const Acad::ErrorStatus es = obj->dwgOut(&filer);
     if (es != Acad::eOk)
         return es;
@@ -104,29 +111,26 @@ Acad::ErrorStatus DrawingFileWriter::fileObject(const AcDbObject* obj, ObjectOut
     out.references = filer.references();
 
     const AcDbEntity* entity = AcDbEntity::cast(obj);
-    std::optional<headless::RecordingWorldDraw> draw;
     const std::vector<headless::RecordedPrimitive>* graphics = nullptr;
     if (proxy != nullptr && proxy->hasGraphics) {
         graphics = &proxy->graphics;
     } else if (proxy == nullptr && entity != nullptr && !HostClassSet::isHostClass(obj->isA())) {
-        draw.emplace();
-        draw->setRegenType(kAcGiSaveWorldDrawForProxy);
-        draw->setDatabase(m_db);
-        draw->drawDrawable(const_cast<AcDbEntity*>(entity));
-        graphics = &draw->primitives();
+        m_draw.clear();
+        m_draw.drawDrawable(const_cast<AcDbEntity*>(entity));
+        graphics = &m_draw.primitives();
     }
+    out.hasGraphics = graphics != nullptr;
     if (graphics != nullptr) {
-        headless::MemoryDwgFiler graphicsFiler(AcDb::kFileFiler, m_db);
+        out.graphics.clear();
+        headless::MemoryDwgFiler graphicsFiler(std::move(out.graphics), AcDb::kFileFiler, m_db);
         GraphicsCodec::write(&graphicsFiler, *graphics);
         if (graphicsFiler.filerStatus() != Acad::eOk)
             return graphicsFiler.filerStatus();
-        out.hasGraphics = true;
         out.graphics = graphicsFiler.takeBytes();
     }
-    if (proxy != nullptr && proxy->hasTransform) {
-        out.hasTransform = true;
+    out.hasTransform = proxy != nullptr && proxy->hasTransform;
+    if (out.hasTransform)
         out.transform = proxy->transform;
-    }
     return Acad::eOk;
 }
 
@@ -160,30 +164,47 @@ std::vector<std::uint8_t> DrawingFileWriter::databasePayload() const
     return filer.takeBytes();
 }
 
-std::vector<std::uint8_t> DrawingFileWriter::objectPayload(const ObjectOut& object)
+void DrawingFileWriter::frameObject(const ObjectOut& object)
 {
-    headless::MemoryDwgFiler filer(AcDb::kFileFiler, nullptr);
-    filer.writeUInt64(object.handle);
-    filer.writeUInt32(object.classIndex);
-    filer.writeUInt64(object.owner);
-    filer.writeUInt32((object.hasGraphics ? kHasGraphics : 0) | (object.hasTransform ? kHasTransform : 0));
-    filer.writeUInt32(static_cast<Adesk::UInt32>(object.data.size()));
-    filer.writeBytes(object.data.data(), object.data.size());
-    filer.writeUInt32(static_cast<Adesk::UInt32>(object.references.size()));
+    // The same bytes a binary filer writes for these fields: little endian at their width,
+    // doubles as their bits.
+    putLittle(m_out, kRecordMarker, 4);
+    const std::size_t checked = m_out.size();
+    m_out.push_back(kObjectRecord);
+    const std::size_t lengthAt = m_out.size();
+    putLittle(m_out, 0, 4);
+    const std::size_t payloadAt = m_out.size();
+    putLittle(m_out, object.handle, 8);
+    putLittle(m_out, object.classIndex, 4);
+    putLittle(m_out, object.owner, 8);
+    putLittle(m_out, (object.hasGraphics ? kHasGraphics : 0) | (object.hasTransform ? kHasTransform : 0), 4);
+    putLittle(m_out, object.data.size(), 4);
+    m_out.insert(m_out.end(), object.data.begin(), object.data.end());
+    putLittle(m_out, object.references.size(), 4);
     for (const ProxyReference& reference : object.references) {
-        filer.writeUInt32(reference.offset);
-        filer.writeUInt8(static_cast<Adesk::UInt8>(reference.kind));
+        putLittle(m_out, reference.offset, 4);
+        putLittle(m_out, static_cast<std::uint8_t>(reference.kind), 1);
     }
     if (object.hasGraphics) {
-        filer.writeUInt32(static_cast<Adesk::UInt32>(object.graphics.size()));
-        filer.writeBytes(object.graphics.data(), object.graphics.size());
+        putLittle(m_out, object.graphics.size(), 4);
+        m_out.insert(m_out.end(), object.graphics.begin(), object.graphics.end());
     }
     if (object.hasTransform) {
-        for (int row = 0; row < 4; ++row)
-            for (int column = 0; column < 4; ++column)
-                filer.writeDouble(object.transform(row, column));
+        for (int row = 0; row < 4; ++row) {
+            for (int column = 0; column < 4; ++column) {
+                std::uint64_t bits = 0;
+                const double value = object.transform(row, column);
+                std::memcpy(&bits, &value, sizeof bits);
+                putLittle(m_out, bits, 8);
+            }
+        }
     }
-    return filer.takeBytes();
+    const std::size_t payloadBytes = m_out.size() - payloadAt;
+    for (int i = 0; i < 4; ++i)
+        m_out[lengthAt + i] = static_cast<std::uint8_t>(payloadBytes >> (8 * i));
+    const std::uint32_t crc = checksum(m_out.data() + checked, m_out.size() - checked);
+    putLittle(m_out, crc, 4);
+    ++m_frames;
 }
 
 Acad::ErrorStatus DrawingFileWriter::write(std::vector<std::uint8_t>& out)
@@ -228,6 +249,7 @@ Acad::ErrorStatus DrawingFileWriter::write(std::vector<std::uint8_t>& out)
         m_classes[i].writeTo(&filer);
         frame(m_out, kClassRecord, filer.bytes());
     }
+    ObjectOut object;  // its buffers serve every object in turn
     for (const AcDbObjectId& id : filed) {
         ReadAccess access(id);
         const AcDbObject* obj = access.object();
@@ -238,7 +260,6 @@ Acad::ErrorStatus DrawingFileWriter::write(std::vector<std::uint8_t>& out)
                        acadErrorStatusText(access.status()));
             return access.status();
         }
-        ObjectOut object;
         const Acad::ErrorStatus es = fileObject(obj, object);
         if (es != Acad::eOk) {
             ACHAR handle[17];
@@ -247,7 +268,7 @@ Acad::ErrorStatus DrawingFileWriter::write(std::vector<std::uint8_t>& out)
                        obj->isA() != nullptr ? obj->isA()->name() : L"?", acadErrorStatusText(es));
             return es;
         }
-        frame(m_out, kObjectRecord, objectPayload(object));
+        frameObject(object);
     }
     // Every class was numbered by the first pass; one that was not would stand nowhere.
     if (m_classes.size() != classCount)

@@ -11,12 +11,13 @@
 
 #include "AcDbDatabase.h"
 #include "ProxyData.h"
+#include "headless/RecordingWorldDraw.h"
 
 namespace hostfile {
 
 class DrawingFileWriter {
 public:
-    explicit DrawingFileWriter(AcDbDatabase* db) : m_db(db) {}
+    explicit DrawingFileWriter(AcDbDatabase* db);
 
     // The file into out, reusing its memory; on failure out holds nothing of use.
     Acad::ErrorStatus write(std::vector<std::uint8_t>& out);
@@ -40,7 +41,8 @@ private:
     // Appends a checksummed record to to.
     void frame(std::vector<std::uint8_t>& to, std::uint8_t kind, const std::vector<std::uint8_t>& payload);
     std::vector<std::uint8_t> databasePayload() const;
-    static std::vector<std::uint8_t> objectPayload(const ObjectOut& object);
+    // Appends the object's record to m_out, its payload written in place.
+    void frameObject(const ObjectOut& object);
 
     AcDbDatabase* m_db;
     std::vector<ClassRecord> m_classes;
@@ -48,6 +50,10 @@ private:
     std::unordered_map<const AcRxClass*, Adesk::UInt32> m_runtimeClassIndex;  // the same, by runtime class
     std::vector<std::uint8_t> m_out;
     std::uint32_t m_frames = 0;
+    // One recording for every custom entity's graphics and one set of object buffers for
+    // the whole save: a fresh recording and fresh buffers per object cost a save as much as
+    // the encoding itself.
+    headless::RecordingWorldDraw m_draw;
 };
 
 }  // namespace hostfile

@@ -3,6 +3,7 @@
 // data fails with eEndOfFile before it allocates or copies anything.
 #include "headless/MemoryDwgFiler.h"
 
+#include <algorithm>
 #include <cstring>
 #include <limits>
 #include <type_traits>
@@ -57,15 +58,22 @@ MemoryDwgFiler::MemoryDwgFiler(AcDb::FilerType type, AcDbDatabase* database) : m
 }
 
 MemoryDwgFiler::MemoryDwgFiler(std::vector<std::uint8_t> bytes, AcDb::FilerType type, AcDbDatabase* database)
-    : m_bytes(std::move(bytes)), m_type(type), m_database(database)
+    : m_bytes(std::move(bytes)), m_end(m_bytes.size()), m_type(type), m_database(database)
 {
 }
 
 MemoryDwgFiler::~MemoryDwgFiler() = default;
 
+const std::vector<std::uint8_t>& MemoryDwgFiler::bytes() const
+{
+    m_bytes.resize(m_end);
+    return m_bytes;
+}
+
 void MemoryDwgFiler::setBytes(std::vector<std::uint8_t> bytes)
 {
     m_bytes = std::move(bytes);
+    m_end = m_bytes.size();
     m_position = 0;
     m_status = Acad::eOk;
 }
@@ -86,7 +94,9 @@ Acad::ErrorStatus MemoryDwgFiler::dwgVersion(AcDb::AcDbDwgVersion& version,
 
 std::vector<std::uint8_t> MemoryDwgFiler::takeBytes()
 {
+    m_bytes.resize(m_end);
     m_position = 0;
+    m_end = 0;
     return std::exchange(m_bytes, {});
 }
 
@@ -102,18 +112,7 @@ Acad::ErrorStatus MemoryDwgFiler::put(const void* data, std::size_t count)
         return m_status;
     if (count == 0)
         return Acad::eOk;
-    const auto* first = static_cast<const std::uint8_t*>(data);
-    if (m_position == m_bytes.size()) {
-        // Appending, as a writer nearly always is: no zero fill before the copy.
-        m_bytes.insert(m_bytes.end(), first, first + count);
-        m_position = m_bytes.size();
-        return Acad::eOk;
-    }
-    const std::size_t end = m_position + count;
-    if (end > m_bytes.size())
-        m_bytes.resize(end);
-    std::memcpy(m_bytes.data() + m_position, first, count);
-    m_position = end;
+    std::memcpy(makeRoom(count), data, count);
     return Acad::eOk;
 }
 
@@ -121,9 +120,11 @@ std::uint8_t* MemoryDwgFiler::makeRoom(std::size_t count)
 {
     const std::size_t end = m_position + count;
     if (end > m_bytes.size())
-        m_bytes.resize(end);
+        m_bytes.resize(std::max(end, std::max<std::size_t>(2 * m_bytes.size(), 256)));
     std::uint8_t* at = m_bytes.data() + m_position;
     m_position = end;
+    if (end > m_end)
+        m_end = end;
     return at;
 }
 
@@ -520,13 +521,11 @@ Acad::ErrorStatus MemoryDwgFiler::seek(Adesk::Int64 offset, int method)
     case AcDb::kSeekFromCurrent:
         base = static_cast<std::int64_t>(m_position);
         break;
-    case AcDb::kSeekFromEnd:
-        base = static_cast<std::int64_t>(m_bytes.size());
-        break;
+    case AcDb::kSeekFromEnd: base = static_cast<std::int64_t>(m_end); break;
     default:
         return fail(Acad::eInvalidInput);
     }
-    const std::int64_t size = static_cast<std::int64_t>(m_bytes.size());
+    const std::int64_t size = static_cast<std::int64_t>(m_end);
     // Both terms lie in [-size, size] after the checks, so the sum cannot overflow.
     if (offset < -size || offset > size)
         return fail(Acad::eInvalidInput);
