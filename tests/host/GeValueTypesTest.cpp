@@ -182,6 +182,42 @@ TEST(GeToleranceTest, NormalizeLeavesVectorsAtMostEqualVectorLongUnchanged)
     EXPECT_EQ(AcGeVector2d(0, -7).normal(), AcGeVector2d(0, -1));
 }
 
+TEST(GeToleranceTest, VectorsFarFromUnitLengthKeepTheirLengthAndDirection)
+{
+    // Their squares overflow or underflow a double; the length and the direction must not.
+    const double half = std::sqrt(0.5);
+    struct Row {
+        const char* name;
+        AcGeVector3d vector;
+        double length;  // infinity: longer than any double
+        AcGeVector3d unit;
+    };
+    const Row rows[] = {
+        {"squares overflow", AcGeVector3d(3e200, 4e200, 0), 5e200, AcGeVector3d(0.6, 0.8, 0)},
+        {"squares overflow, negative", AcGeVector3d(0, -4e200, 3e200), 5e200, AcGeVector3d(0, -0.8, 0.6)},
+        {"near the largest double", AcGeVector3d(1e308, 0, 1e308), 1e308 * std::sqrt(2.0), AcGeVector3d(half, 0, half)},
+        {"longer than any double", AcGeVector3d(1.5e308, 0, 1.5e308), HUGE_VAL, AcGeVector3d(half, 0, half)},
+        {"squares underflow", AcGeVector3d(3e-200, 4e-200, 0), 5e-200, AcGeVector3d(3e-200, 4e-200, 0)},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        EXPECT_DOUBLE_EQ(row.vector.length(), row.length);
+        AcGeVector3d unit = row.vector;
+        AcGeError flag = AcGe::kOk;
+        unit.normalize(AcGeContext::gTol, flag);
+        // A vector shorter than the tolerance stays as it is.
+        EXPECT_EQ(flag, row.length > 1e-12 ? AcGe::kOk : AcGe::k0This);
+        EXPECT_DOUBLE_EQ(unit.x, row.unit.x);
+        EXPECT_DOUBLE_EQ(unit.y, row.unit.y);
+        EXPECT_DOUBLE_EQ(unit.z, row.unit.z);
+    }
+    const AcGeVector2d flat(-3e200, 4e200);
+    EXPECT_DOUBLE_EQ(flat.length(), 5e200);
+    EXPECT_DOUBLE_EQ(flat.normal().x, -0.6);
+    EXPECT_DOUBLE_EQ(flat.normal().y, 0.8);
+    EXPECT_DOUBLE_EQ(AcGeVector2d(1.5e308, -1.5e308).normal().y, -half);
+}
+
 TEST(GePerpVectorTest, FollowsTheArbitraryAxisRule)
 {
     struct Row {

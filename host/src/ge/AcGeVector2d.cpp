@@ -1,6 +1,7 @@
 // AcGeVector2d: tolerance predicates, rotation and mirroring of vectors in the plane.
 #include "gevec2d.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "GeFormat.h"
@@ -74,12 +75,19 @@ AcGeVector2d& AcGeVector2d::normalize(const AcGeTol& tol, AcGeError& flag)
         return *this;
     }
     flag = AcGe::kOk;
+    const double largest = std::max(std::fabs(x), std::fabs(y));
+    if (std::isinf(len) && std::isfinite(largest)) {
+        // Longer than any double: brought down by its largest component first, so that the
+        // direction survives instead of every component dividing to zero.
+        *this /= largest;
+        return *this /= length();
+    }
     return *this /= len;
 }
 
 double AcGeVector2d::length() const
 {
-    return std::sqrt(lengthSqrd());
+    return hostge::euclideanLength(x, y, 0.0);
 }
 
 Adesk::Boolean AcGeVector2d::isUnitLength(const AcGeTol& tol) const

@@ -1,6 +1,7 @@
 // AcGeVector3d: tolerance predicates, rotation, mirroring and projection of vectors in space.
 #include "gevec3d.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "GeFormat.h"
@@ -115,12 +116,19 @@ AcGeVector3d& AcGeVector3d::normalize(const AcGeTol& tol, AcGeError& flag)
         return *this;
     }
     flag = AcGe::kOk;
+    const double largest = std::max({std::fabs(x), std::fabs(y), std::fabs(z)});
+    if (std::isinf(len) && std::isfinite(largest)) {
+        // Longer than any double: brought down by its largest component first, so that the
+        // direction survives instead of every component dividing to zero.
+        *this /= largest;
+        return *this /= length();
+    }
     return *this /= len;
 }
 
 double AcGeVector3d::length() const
 {
-    return std::sqrt(lengthSqrd());
+    return hostge::euclideanLength(x, y, z);
 }
 
 Adesk::Boolean AcGeVector3d::isUnitLength(const AcGeTol& tol) const

@@ -1,7 +1,9 @@
 // Small pieces of linear algebra that several geometry classes share.
 #include "GeMath.h"
 
+#include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace hostge {
 
@@ -33,6 +35,20 @@ AcGePoint2d coordinatesIn(const AcGeVector3d& u, const AcGeVector3d& v, const Ac
     const double wv = w.dotProduct(v);
     const double gram = uu * vv - uv * uv;
     return AcGePoint2d((wu * vv - wv * uv) / gram, (wv * uu - wu * uv) / gram);
+}
+
+double euclideanLength(double x, double y, double z)
+{
+    const double squares = x * x + y * y + z * z;
+    if (std::isfinite(squares) && squares >= std::numeric_limits<double>::min())
+        return std::sqrt(squares);
+    const double largest = std::max({std::fabs(x), std::fabs(y), std::fabs(z)});
+    if (largest == 0.0 || !std::isfinite(largest))
+        return std::sqrt(squares);  // zero, or an infinite or NaN component
+    const double a = x / largest;
+    const double b = y / largest;
+    const double c = z / largest;
+    return largest * std::sqrt(a * a + b * b + c * c);
 }
 
 }  // namespace hostge

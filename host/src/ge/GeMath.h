@@ -27,4 +27,9 @@ constexpr double kSimilarityTolerance = 1e-9;
 // (u and v need be neither unit nor perpendicular, only independent).
 AcGePoint2d coordinatesIn(const AcGeVector3d& u, const AcGeVector3d& v, const AcGeVector3d& w);
 
+// The length of (x, y, z) from the sum of squares, which overflows to infinity for
+// components near 1e154 and underflows to zero near 1e-154: then the components are
+// scaled by the largest first. Ordinary lengths are the plain square root, to the bit.
+double euclideanLength(double x, double y, double z);
+
 }  // namespace hostge
