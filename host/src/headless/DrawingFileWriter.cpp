@@ -134,17 +134,32 @@ Acad::ErrorStatus DrawingFileWriter::fileObject(const AcDbObject* obj, ObjectOut
     return Acad::eOk;
 }
 
+std::size_t DrawingFileWriter::beginFrame(std::vector<std::uint8_t>& to, std::uint8_t kind)
+{
+    putLittle(to, kRecordMarker, 4);
+    const std::size_t checkedFrom = to.size();
+    to.push_back(kind);
+    putLittle(to, 0, 4);  // the payload's length, once it is written
+    return checkedFrom;
+}
+
+void DrawingFileWriter::endFrame(std::vector<std::uint8_t>& to, std::size_t checkedFrom)
+{
+    const std::size_t lengthAt = checkedFrom + 1;
+    const std::size_t payloadBytes = to.size() - (lengthAt + 4);
+    for (int i = 0; i < 4; ++i)
+        to[lengthAt + i] = static_cast<std::uint8_t>(payloadBytes >> (8 * i));
+    const std::uint32_t crc = checksum(to.data() + checkedFrom, to.size() - checkedFrom);
+    putLittle(to, crc, 4);
+    ++m_frames;
+}
+
 void DrawingFileWriter::frame(std::vector<std::uint8_t>& to, std::uint8_t kind,
                               const std::vector<std::uint8_t>& payload)
 {
-    putLittle(to, kRecordMarker, 4);
-    const std::size_t checked = to.size();
-    to.push_back(kind);
-    putLittle(to, payload.size(), 4);
+    const std::size_t checkedFrom = beginFrame(to, kind);
     to.insert(to.end(), payload.begin(), payload.end());
-    const std::uint32_t crc = checksum(to.data() + checked, to.size() - checked);
-    putLittle(to, crc, 4);
-    ++m_frames;
+    endFrame(to, checkedFrom);
 }
 
 std::vector<std::uint8_t> DrawingFileWriter::databasePayload() const
@@ -168,12 +183,7 @@ void DrawingFileWriter::frameObject(const ObjectOut& object)
 {
     // The same bytes a binary filer writes for these fields: little endian at their width,
     // doubles as their bits.
-    putLittle(m_out, kRecordMarker, 4);
-    const std::size_t checked = m_out.size();
-    m_out.push_back(kObjectRecord);
-    const std::size_t lengthAt = m_out.size();
-    putLittle(m_out, 0, 4);
-    const std::size_t payloadAt = m_out.size();
+    const std::size_t checkedFrom = beginFrame(m_out, kObjectRecord);
     putLittle(m_out, object.handle, 8);
     putLittle(m_out, object.classIndex, 4);
     putLittle(m_out, object.owner, 8);
@@ -199,12 +209,7 @@ void DrawingFileWriter::frameObject(const ObjectOut& object)
             }
         }
     }
-    const std::size_t payloadBytes = m_out.size() - payloadAt;
-    for (int i = 0; i < 4; ++i)
-        m_out[lengthAt + i] = static_cast<std::uint8_t>(payloadBytes >> (8 * i));
-    const std::uint32_t crc = checksum(m_out.data() + checked, m_out.size() - checked);
-    putLittle(m_out, crc, 4);
-    ++m_frames;
+    endFrame(m_out, checkedFrom);
 }
 
 Acad::ErrorStatus DrawingFileWriter::write(std::vector<std::uint8_t>& out)

@@ -38,6 +38,10 @@ private:
     Acad::ErrorStatus fileObject(const AcDbObject* obj, ObjectOut& out);
     Adesk::UInt32 classIndexOf(const ClassRecord& cls);
     Adesk::UInt32 classIndexOf(const AcRxClass* cls);
+    // A record is framed in two steps around its payload, written in place between them:
+    // the head (marker, kind, room for the length), then the length and the checksum.
+    std::size_t beginFrame(std::vector<std::uint8_t>& to, std::uint8_t kind);
+    void endFrame(std::vector<std::uint8_t>& to, std::size_t checkedFrom);
     // Appends a checksummed record to to.
     void frame(std::vector<std::uint8_t>& to, std::uint8_t kind, const std::vector<std::uint8_t>& payload);
     std::vector<std::uint8_t> databasePayload() const;
