@@ -1,6 +1,7 @@
 // Classes for the drawing-file suites that can be registered with chosen proxy flags and
 // unregistered again, so that drawings holding them open as proxies: a shape entity (a
-// circle with a bulged tick, a label and a link) and a record object.
+// circle with a bulged tick, a label and a link), a record object, and a sketch entity
+// that draws every kind of primitive with changing traits.
 #pragma once
 
 #include "AcDbEntity.h"
@@ -61,4 +62,27 @@ public:
 private:
     Adesk::Int32 m_number = 0;
     AcDbHardPointerId m_target;
+};
+
+// Draws every kind of primitive the host records, nested once, with traits, markers and text
+// styles that change between them, then `plainLines` 2-point lines in the plane z = 0 that
+// repeat the last traits and marker.
+class FileTestSketch : public AcDbEntity {
+    ACRX_DECLARE_MEMBERS(FileTestSketch);
+
+public:
+    static void registerWith(int proxyFlags);
+    static void unregister();
+
+    int plainLines() const { return testobj::readField(this, m_plainLines); }
+    void setPlainLines(int count) { testobj::writeField(this, m_plainLines, count); }
+
+    Acad::ErrorStatus dwgOutFields(AcDbDwgFiler* filer) const override;
+    Acad::ErrorStatus dwgInFields(AcDbDwgFiler* filer) override;
+
+protected:
+    Adesk::Boolean subWorldDraw(AcGiWorldDraw* worldDraw) override;
+
+private:
+    Adesk::Int32 m_plainLines = 0;
 };

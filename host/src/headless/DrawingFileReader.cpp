@@ -246,6 +246,7 @@ bool DrawingFileReader::parseObject(const Frame& frame, ObjectIn& object)
         object.references.push_back(reference);
     }
     object.hasGraphics = (flags & kHasGraphics) != 0;
+    object.compactGraphics = (flags & kCompactGraphics) != 0;
     if (sound && object.hasGraphics) {
         sound = filer.readUInt32(&length) == Acad::eOk && length <= filer.remaining();
         if (sound) {
@@ -277,7 +278,8 @@ bool DrawingFileReader::makeProxy(ObjectIn& object, const ClassRecord& cls, bool
         if (object.hasGraphics) {
             headless::MemoryDwgFiler filer(object.graphics, AcDb::kFileFiler, db);
             filer.setCreatesStubs(true);
-            data.hasGraphics = GraphicsCodec::read(&filer, object.graphics.size(), data.graphics) == Acad::eOk;
+            const GraphicsForm form = object.compactGraphics ? GraphicsForm::kCompact : GraphicsForm::kVerbose;
+            data.hasGraphics = GraphicsCodec::read(&filer, object.graphics.size(), data.graphics, form) == Acad::eOk;
             if (!data.hasGraphics) {
                 data.graphics.clear();
                 note(L"The kept graphics of object " + hex(object.handle) + L" are damaged and were left out.");

@@ -40,6 +40,7 @@ private:
         std::vector<std::uint8_t> data;
         std::vector<ProxyReference> references;
         bool hasGraphics = false;
+        bool compactGraphics = false;
         std::vector<std::uint8_t> graphics;
         bool hasTransform = false;
         AcGeMatrix3d transform;

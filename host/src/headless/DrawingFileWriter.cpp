@@ -187,7 +187,9 @@ void DrawingFileWriter::frameObject(const ObjectOut& object)
     putLittle(m_out, object.handle, 8);
     putLittle(m_out, object.classIndex, 4);
     putLittle(m_out, object.owner, 8);
-    putLittle(m_out, (object.hasGraphics ? kHasGraphics : 0) | (object.hasTransform ? kHasTransform : 0), 4);
+    putLittle(m_out,
+              (object.hasGraphics ? kHasGraphics | kCompactGraphics : 0) | (object.hasTransform ? kHasTransform : 0),
+              4);
     putLittle(m_out, object.data.size(), 4);
     m_out.insert(m_out.end(), object.data.begin(), object.data.end());
     putLittle(m_out, object.references.size(), 4);

@@ -1,8 +1,12 @@
-// GraphicsCodec: per primitive its kind and depth, the points, vectors, numbers, integers
-// and text, the text style, and the traits; references (layer, linetype) as soft pointers.
+// GraphicsCodec: per primitive its kind, then (compact) the parts that follow or (verbose)
+// its depth, the points, vectors, numbers, integers and text, the text style and the
+// traits; references (layer, linetype) as soft pointers.
 #include "GraphicsCodec.h"
 
+#include <algorithm>
+#include <cmath>
 #include <cstdint>
+#include <cstring>
 
 #include "acutads.h"
 #include "acutmem.h"
@@ -15,11 +19,29 @@ namespace {
 using headless::PrimitiveKind;
 using headless::RecordedPrimitive;
 
-// The least a primitive takes on file (kind, depth, five empty lists, the style's fixed
-// part and the traits): a count larger than budget / this cannot be true.
-constexpr std::size_t kMinimumPrimitiveBytes = 64;
+// The least a primitive takes on file: in the verbose form its kind, depth, five empty
+// lists, the style's fixed part and the traits; in the compact form its kind and the word
+// that says which parts follow. A count larger than budget / this cannot be true.
+constexpr std::size_t kMinimumVerboseBytes = 64;
+constexpr std::size_t kMinimumCompactBytes = 3;
 constexpr std::size_t kPointBytes = 24;
+constexpr std::size_t kFlatPointBytes = 16;
 constexpr int kLastKind = static_cast<int>(PrimitiveKind::kClipEnd);
+
+// What follows a primitive's kind in the compact form, in this order.
+enum Part : Adesk::UInt16 {
+    kDepth = 1 << 0,
+    kPoints = 1 << 1,
+    kFlatPoints = 1 << 2,  // with kPoints: x and y only, every z is +0
+    kVectors = 1 << 3,
+    kNumbers = 1 << 4,
+    kIntegers = 1 << 5,
+    kText = 1 << 6,
+    kStyle = 1 << 7,   // absent: the default text style
+    kMarker = 1 << 8,  // absent: the selection marker of the primitive before
+    kTraits = 1 << 9,  // absent: the other traits of the primitive before
+};
+constexpr Adesk::UInt16 kKnownParts = (1 << 10) - 1;
 
 enum StyleFlag : Adesk::UInt16 {
     kBackward = 1 << 0,
@@ -115,7 +137,8 @@ Acad::ErrorStatus readStyle(AcDbDwgFiler* filer, AcGiTextStyle& style)
     return Acad::eOk;
 }
 
-void writeTraits(AcDbDwgFiler* filer, const headless::RecordedTraits& traits)
+// The traits but the selection marker, which changes far more often than the rest.
+void writeTraitsBody(AcDbDwgFiler* filer, const headless::RecordedTraits& traits)
 {
     filer->writeUInt16(traits.color);
     filer->writeUInt32(traits.trueColor.getRGBM());
@@ -125,38 +148,174 @@ void writeTraits(AcDbDwgFiler* filer, const headless::RecordedTraits& traits)
     filer->writeDouble(traits.linetypeScale);
     filer->writeDouble(traits.thickness);
     filer->writeUInt8(static_cast<Adesk::UInt8>(traits.fillType));
-    filer->writeInt64(static_cast<Adesk::Int64>(traits.selectionMarker));
 }
 
-Acad::ErrorStatus readTraits(AcDbDwgFiler* filer, headless::RecordedTraits& traits)
+Acad::ErrorStatus readTraitsBody(AcDbDwgFiler* filer, headless::RecordedTraits& traits)
 {
+    Adesk::UInt16 color = 0;
     Adesk::UInt32 rgbm = 0;
     AcDbSoftPointerId layer, linetype;
     Adesk::Int16 lineWeight = 0;
+    double linetypeScale = 1.0;
+    double thickness = 0.0;
     Adesk::UInt8 fill = 0;
-    Adesk::Int64 marker = 0;
-    filer->readUInt16(&traits.color);
+    filer->readUInt16(&color);
     filer->readUInt32(&rgbm);
     filer->readSoftPointerId(&layer);
     filer->readSoftPointerId(&linetype);
     filer->readInt16(&lineWeight);
-    filer->readDouble(&traits.linetypeScale);
-    filer->readDouble(&traits.thickness);
+    filer->readDouble(&linetypeScale);
+    filer->readDouble(&thickness);
     filer->readUInt8(&fill);
-    filer->readInt64(&marker);
     if (filer->filerStatus() != Acad::eOk)
         return filer->filerStatus();
     if (!hostdb::isValidLineWeight(lineWeight)) {
         filer->setFilerStatus(Acad::eDwgObjectImproperlyRead);
         return Acad::eDwgObjectImproperlyRead;
     }
+    traits.color = color;
     traits.trueColor.setRGBM(rgbm);
     traits.layerId = layer;
     traits.linetypeId = linetype;
     traits.lineWeight = static_cast<AcDb::LineWeight>(lineWeight);
+    traits.linetypeScale = linetypeScale;
+    traits.thickness = thickness;
     traits.fillType = fill == kAcGiFillAlways ? kAcGiFillAlways : kAcGiFillNever;
-    traits.selectionMarker = static_cast<Adesk::LongPtr>(marker);
     return Acad::eOk;
+}
+
+Acad::ErrorStatus readMarker(AcDbDwgFiler* filer, headless::RecordedTraits& traits)
+{
+    Adesk::Int64 marker = 0;
+    if (filer->readInt64(&marker) == Acad::eOk)
+        traits.selectionMarker = static_cast<Adesk::LongPtr>(marker);
+    return filer->filerStatus();
+}
+
+// Numbers compare by their bits, so that -0 and the payload of a NaN come back as they were.
+bool sameBits(double a, double b)
+{
+    return std::memcmp(&a, &b, sizeof a) == 0;
+}
+
+bool sameTraitsBody(const headless::RecordedTraits& a, const headless::RecordedTraits& b)
+{
+    return a.color == b.color && a.trueColor.getRGBM() == b.trueColor.getRGBM() && a.layerId == b.layerId &&
+        a.linetypeId == b.linetypeId && a.lineWeight == b.lineWeight && sameBits(a.linetypeScale, b.linetypeScale) &&
+        sameBits(a.thickness, b.thickness) && a.fillType == b.fillType;
+}
+
+bool isDefaultStyle(const AcGiTextStyle& style)
+{
+    static const AcGiTextStyle kDefault;
+    return style == kDefault && !std::signbit(style.obliquingAngle());
+}
+
+bool isFlat(const std::vector<AcGePoint3d>& points)
+{
+    return std::all_of(points.begin(), points.end(),
+                       [](const AcGePoint3d& point) { return point.z == 0.0 && !std::signbit(point.z); });
+}
+
+Acad::ErrorStatus improperlyRead(AcDbDwgFiler* filer)
+{
+    filer->setFilerStatus(Acad::eDwgObjectImproperlyRead);
+    return Acad::eDwgObjectImproperlyRead;
+}
+
+template <typename T, typename ReadOne>
+Acad::ErrorStatus readList(AcDbDwgFiler* filer, std::size_t budget, std::size_t unitBytes, std::vector<T>& list,
+                           ReadOne readOne)
+{
+    std::size_t n = 0;
+    if (readCount(filer, budget, unitBytes, n) != Acad::eOk)
+        return filer->filerStatus();
+    list.resize(n);
+    for (T& item : list)
+        readOne(item);
+    return filer->filerStatus();
+}
+
+Acad::ErrorStatus readVerbose(AcDbDwgFiler* filer, std::size_t budget, RecordedPrimitive& p)
+{
+    Adesk::UInt8 kind = 0;
+    Adesk::Int32 depth = 0;
+    filer->readUInt8(&kind);
+    filer->readInt32(&depth);
+    if (filer->filerStatus() != Acad::eOk)
+        return filer->filerStatus();
+    if (kind > kLastKind || depth < 0)
+        return improperlyRead(filer);
+    p.kind = static_cast<PrimitiveKind>(kind);
+    p.depth = depth;
+    readList(filer, budget, kPointBytes, p.points, [filer](AcGePoint3d& point) { filer->readPoint3d(&point); });
+    readList(filer, budget, kPointBytes, p.vectors, [filer](AcGeVector3d& vector) { filer->readVector3d(&vector); });
+    readList(filer, budget, sizeof(double), p.numbers, [filer](double& number) { filer->readDouble(&number); });
+    readList(filer, budget, sizeof(Adesk::Int64), p.integers,
+             [filer](Adesk::Int64& integer) { filer->readInt64(&integer); });
+    if (filer->filerStatus() != Acad::eOk)
+        return filer->filerStatus();
+    AcString text;
+    filer->readString(text);
+    p.text = text.kwszPtr();
+    if (readStyle(filer, p.style) != Acad::eOk || readTraitsBody(filer, p.traits) != Acad::eOk)
+        return filer->filerStatus();
+    return readMarker(filer, p.traits);
+}
+
+Acad::ErrorStatus readCompact(AcDbDwgFiler* filer, std::size_t budget, const headless::RecordedTraits& before,
+                              RecordedPrimitive& p)
+{
+    Adesk::UInt8 kind = 0;
+    Adesk::UInt16 parts = 0;
+    filer->readUInt8(&kind);
+    filer->readUInt16(&parts);
+    if (filer->filerStatus() != Acad::eOk)
+        return filer->filerStatus();
+    if (kind > kLastKind || (parts & ~kKnownParts) != 0 || ((parts & kFlatPoints) != 0 && (parts & kPoints) == 0))
+        return improperlyRead(filer);
+    p.kind = static_cast<PrimitiveKind>(kind);
+    if ((parts & kDepth) != 0) {
+        Adesk::Int32 depth = 0;
+        if (filer->readInt32(&depth) != Acad::eOk)
+            return filer->filerStatus();
+        if (depth < 0)
+            return improperlyRead(filer);
+        p.depth = depth;
+    }
+    if ((parts & kFlatPoints) != 0) {
+        readList(filer, budget, kFlatPointBytes, p.points, [filer](AcGePoint3d& point) {
+            AcGePoint2d flat;
+            filer->readPoint2d(&flat);
+            point.set(flat.x, flat.y, 0.0);
+        });
+    } else if ((parts & kPoints) != 0) {
+        readList(filer, budget, kPointBytes, p.points, [filer](AcGePoint3d& point) { filer->readPoint3d(&point); });
+    }
+    if ((parts & kVectors) != 0)
+        readList(filer, budget, kPointBytes, p.vectors,
+                 [filer](AcGeVector3d& vector) { filer->readVector3d(&vector); });
+    if ((parts & kNumbers) != 0)
+        readList(filer, budget, sizeof(double), p.numbers, [filer](double& number) { filer->readDouble(&number); });
+    if ((parts & kIntegers) != 0)
+        readList(filer, budget, sizeof(Adesk::Int64), p.integers,
+                 [filer](Adesk::Int64& integer) { filer->readInt64(&integer); });
+    if (filer->filerStatus() != Acad::eOk)
+        return filer->filerStatus();
+    if ((parts & kText) != 0) {
+        AcString text;
+        if (filer->readString(text) != Acad::eOk)
+            return filer->filerStatus();
+        p.text = text.kwszPtr();
+    }
+    if ((parts & kStyle) != 0 && readStyle(filer, p.style) != Acad::eOk)
+        return filer->filerStatus();
+    p.traits = before;
+    if ((parts & kMarker) != 0 && readMarker(filer, p.traits) != Acad::eOk)
+        return filer->filerStatus();
+    if ((parts & kTraits) != 0 && readTraitsBody(filer, p.traits) != Acad::eOk)
+        return filer->filerStatus();
+    return filer->filerStatus();
 }
 
 }  // namespace
@@ -164,76 +323,76 @@ Acad::ErrorStatus readTraits(AcDbDwgFiler* filer, headless::RecordedTraits& trai
 Acad::ErrorStatus GraphicsCodec::write(AcDbDwgFiler* filer, const std::vector<RecordedPrimitive>& primitives)
 {
     filer->writeUInt32(static_cast<Adesk::UInt32>(primitives.size()));
+    headless::RecordedTraits before;
     for (const RecordedPrimitive& p : primitives) {
+        Adesk::UInt16 parts = 0;
+        const bool flat = isFlat(p.points);
+        parts |= p.depth != 0 ? kDepth : 0;
+        parts |= !p.points.empty() ? (flat ? kPoints | kFlatPoints : kPoints) : 0;
+        parts |= !p.vectors.empty() ? kVectors : 0;
+        parts |= !p.numbers.empty() ? kNumbers : 0;
+        parts |= !p.integers.empty() ? kIntegers : 0;
+        parts |= !p.text.empty() ? kText : 0;
+        parts |= !isDefaultStyle(p.style) ? kStyle : 0;
+        parts |= p.traits.selectionMarker != before.selectionMarker ? kMarker : 0;
+        parts |= !sameTraitsBody(p.traits, before) ? kTraits : 0;
         filer->writeUInt8(static_cast<Adesk::UInt8>(p.kind));
-        filer->writeInt32(p.depth);
-        filer->writeUInt32(static_cast<Adesk::UInt32>(p.points.size()));
-        for (const AcGePoint3d& point : p.points)
-            filer->writePoint3d(point);
-        filer->writeUInt32(static_cast<Adesk::UInt32>(p.vectors.size()));
-        for (const AcGeVector3d& vector : p.vectors)
-            filer->writeVector3d(vector);
-        filer->writeUInt32(static_cast<Adesk::UInt32>(p.numbers.size()));
-        for (double number : p.numbers)
-            filer->writeDouble(number);
-        filer->writeUInt32(static_cast<Adesk::UInt32>(p.integers.size()));
-        for (Adesk::Int64 integer : p.integers)
-            filer->writeInt64(integer);
-        filer->writeString(p.text.c_str());
-        writeStyle(filer, p.style);
-        writeTraits(filer, p.traits);
+        filer->writeUInt16(parts);
+        if ((parts & kDepth) != 0)
+            filer->writeInt32(p.depth);
+        if ((parts & kPoints) != 0) {
+            filer->writeUInt32(static_cast<Adesk::UInt32>(p.points.size()));
+            for (const AcGePoint3d& point : p.points) {
+                if (flat)
+                    filer->writePoint2d(AcGePoint2d(point.x, point.y));
+                else
+                    filer->writePoint3d(point);
+            }
+        }
+        if ((parts & kVectors) != 0) {
+            filer->writeUInt32(static_cast<Adesk::UInt32>(p.vectors.size()));
+            for (const AcGeVector3d& vector : p.vectors)
+                filer->writeVector3d(vector);
+        }
+        if ((parts & kNumbers) != 0) {
+            filer->writeUInt32(static_cast<Adesk::UInt32>(p.numbers.size()));
+            for (double number : p.numbers)
+                filer->writeDouble(number);
+        }
+        if ((parts & kIntegers) != 0) {
+            filer->writeUInt32(static_cast<Adesk::UInt32>(p.integers.size()));
+            for (Adesk::Int64 integer : p.integers)
+                filer->writeInt64(integer);
+        }
+        if ((parts & kText) != 0)
+            filer->writeString(p.text.c_str());
+        if ((parts & kStyle) != 0)
+            writeStyle(filer, p.style);
+        if ((parts & kMarker) != 0)
+            filer->writeInt64(static_cast<Adesk::Int64>(p.traits.selectionMarker));
+        if ((parts & kTraits) != 0)
+            writeTraitsBody(filer, p.traits);
+        before = p.traits;
     }
     return filer->filerStatus();
 }
 
 Acad::ErrorStatus GraphicsCodec::read(AcDbDwgFiler* filer, std::size_t budget,
-                                      std::vector<RecordedPrimitive>& primitives)
+                                      std::vector<RecordedPrimitive>& primitives, GraphicsForm form)
 {
     primitives.clear();
+    const bool compact = form == GraphicsForm::kCompact;
     std::size_t count = 0;
-    if (readCount(filer, budget, kMinimumPrimitiveBytes, count) != Acad::eOk)
+    if (readCount(filer, budget, compact ? kMinimumCompactBytes : kMinimumVerboseBytes, count) != Acad::eOk)
         return filer->filerStatus();
     primitives.reserve(count);
+    headless::RecordedTraits before;
     for (std::size_t i = 0; i < count; ++i) {
         RecordedPrimitive p;
-        Adesk::UInt8 kind = 0;
-        Adesk::Int32 depth = 0;
-        filer->readUInt8(&kind);
-        filer->readInt32(&depth);
-        if (filer->filerStatus() != Acad::eOk)
-            return filer->filerStatus();
-        if (kind > kLastKind || depth < 0) {
-            filer->setFilerStatus(Acad::eDwgObjectImproperlyRead);
-            return Acad::eDwgObjectImproperlyRead;
-        }
-        p.kind = static_cast<PrimitiveKind>(kind);
-        p.depth = depth;
-        std::size_t n = 0;
-        if (readCount(filer, budget, kPointBytes, n) != Acad::eOk)
-            return filer->filerStatus();
-        p.points.resize(n);
-        for (AcGePoint3d& point : p.points)
-            filer->readPoint3d(&point);
-        if (readCount(filer, budget, kPointBytes, n) != Acad::eOk)
-            return filer->filerStatus();
-        p.vectors.resize(n);
-        for (AcGeVector3d& vector : p.vectors)
-            filer->readVector3d(&vector);
-        if (readCount(filer, budget, sizeof(double), n) != Acad::eOk)
-            return filer->filerStatus();
-        p.numbers.resize(n);
-        for (double& number : p.numbers)
-            filer->readDouble(&number);
-        if (readCount(filer, budget, sizeof(Adesk::Int64), n) != Acad::eOk)
-            return filer->filerStatus();
-        p.integers.resize(n);
-        for (Adesk::Int64& integer : p.integers)
-            filer->readInt64(&integer);
-        AcString text;
-        filer->readString(text);
-        p.text = text.kwszPtr();
-        if (readStyle(filer, p.style) != Acad::eOk || readTraits(filer, p.traits) != Acad::eOk)
-            return filer->filerStatus();
+        const Acad::ErrorStatus es = compact ? readCompact(filer, budget, before, p) : readVerbose(filer, budget, p);
+        if (es != Acad::eOk)
+            return es;
+        before = p.traits;
         primitives.push_back(std::move(p));
     }
     return filer->filerStatus();

@@ -12,12 +12,20 @@
 
 namespace hostfile {
 
+// kVerbose: drawings of format 1.0 give every primitive all five lists, a whole text style
+// and all traits. kCompact: a primitive says which parts follow; a text style only where
+// one is not the default, traits only where they change from the primitive before, points
+// in the plane z = 0 without their z. Both read back exactly what was written.
+enum class GraphicsForm { kVerbose, kCompact };
+
 class GraphicsCodec {
 public:
+    // Always the compact form.
     static Acad::ErrorStatus write(AcDbDwgFiler* filer, const std::vector<headless::RecordedPrimitive>& primitives);
     // budget: how many bytes can follow at most (the rest of the record).
     static Acad::ErrorStatus read(AcDbDwgFiler* filer, std::size_t budget,
-                                  std::vector<headless::RecordedPrimitive>& primitives);
+                                  std::vector<headless::RecordedPrimitive>& primitives,
+                                  GraphicsForm form = GraphicsForm::kCompact);
 };
 
 }  // namespace hostfile
