@@ -19,6 +19,7 @@
 #include "dbsymtb.h"
 #include "headless/CommandLine.h"
 #include "headless/DrawingFile.h"
+#include "headless/RecordingDwgFiler.h"
 #include "headless/RecordingWorldDraw.h"
 #include "headless/TextCodec.h"
 #include "panel/AecPanel.h"
@@ -101,6 +102,46 @@ void SetRate(benchmark::State& state, int count)
         benchmark::Counter(count * 1e-9, benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
 }
 
+// Counts the JSON text an object files: the strings that hold a JSON object or array, in
+// the two bytes a UTF-16 code unit takes on file.
+class JsonTextCounter : public headless::RecordingDwgFiler {
+public:
+    std::size_t bytes = 0;
+
+    Acad::ErrorStatus writeString(const ACHAR* value) override
+    {
+        count(value != nullptr ? value : L"");
+        return headless::RecordingDwgFiler::writeString(value);
+    }
+    Acad::ErrorStatus writeString(const AcString& value) override
+    {
+        count(value.kwszPtr());
+        return headless::RecordingDwgFiler::writeString(value);
+    }
+
+private:
+    void count(const ACHAR* text)
+    {
+        if (text[0] == L'{' || text[0] == L'[')
+            bytes += 2 * headless::toUtf16(text).size();
+    }
+};
+
+double JsonBytesPerEntity(AcDbDatabase* db)
+{
+    const AcDbObjectIdArray ids = EntitiesOf(db);
+    JsonTextCounter counter;
+    for (const AcDbObjectId& id : ids) {
+        AcDbEntity* entity = nullptr;
+        if (acdbOpenObject(entity, id, AcDb::kForRead) != Acad::eOk)
+            continue;
+        entity->dwgOut(&counter);
+        entity->close();
+        counter.clearLines();
+    }
+    return ids.isEmpty() ? 0.0 : static_cast<double>(counter.bytes) / ids.length();
+}
+
 void Save(benchmark::State& state, const LayoutKind& kind, Side side)
 {
     RegisterOnce();
@@ -115,6 +156,8 @@ void Save(benchmark::State& state, const LayoutKind& kind, Side side)
     }
     SetRate(state, count);
     state.counters["bytes_per_entity"] = static_cast<double>(bytes.size() - emptyBytes) / count;
+    if (side == Side::kCustom)
+        state.counters["json_bytes_per_entity"] = JsonBytesPerEntity(db.get());
 }
 
 void Open(benchmark::State& state, const LayoutKind& kind, Side side)

@@ -7,6 +7,7 @@
 #include <cmath>
 #include <cstdint>
 #include <cstring>
+#include <limits>
 
 #include "acutads.h"
 #include "acutmem.h"
@@ -24,11 +25,14 @@ using headless::RecordedPrimitive;
 // that says which parts follow. A count larger than budget / this cannot be true.
 constexpr std::size_t kMinimumVerboseBytes = 64;
 constexpr std::size_t kMinimumCompactBytes = 3;
+constexpr std::size_t kMinimumVarIntBytes = 1;
 constexpr std::size_t kPointBytes = 24;
 constexpr std::size_t kFlatPointBytes = 16;
 constexpr int kLastKind = static_cast<int>(PrimitiveKind::kClipEnd);
 
-// What follows a primitive's kind in the compact form, in this order.
+// What follows a primitive's kind in the compact form, in this order. Counts, the depth,
+// the integers and the marker are variable-length integers (seven bits a byte, low first;
+// integers and the marker zigzag-coded, so that small negative numbers stay short).
 enum Part : Adesk::UInt16 {
     kDepth = 1 << 0,
     kPoints = 1 << 1,
@@ -37,11 +41,14 @@ enum Part : Adesk::UInt16 {
     kNumbers = 1 << 4,
     kIntegers = 1 << 5,
     kText = 1 << 6,
-    kStyle = 1 << 7,   // absent: the default text style
-    kMarker = 1 << 8,  // absent: the selection marker of the primitive before
-    kTraits = 1 << 9,  // absent: the other traits of the primitive before
+    kStyle = 1 << 7,           // absent: the default text style
+    kMarker = 1 << 8,          // absent: the selection marker of the primitive before
+    kTraits = 1 << 9,          // absent: the other traits of the primitive before
+    kUnitZNormal = 1 << 10,    // instead of kVectors: the one vector (0, 0, 1)
+    kSparseNumbers = 1 << 11,  // with kNumbers: a bit a number, only those that are not +0 follow
 };
-constexpr Adesk::UInt16 kKnownParts = (1 << 10) - 1;
+constexpr Adesk::UInt16 kKnownParts = (1 << 12) - 1;
+constexpr std::size_t kMaxVarIntBytes = 10;
 
 enum StyleFlag : Adesk::UInt16 {
     kBackward = 1 << 0,
@@ -192,6 +199,62 @@ Acad::ErrorStatus readMarker(AcDbDwgFiler* filer, headless::RecordedTraits& trai
     return filer->filerStatus();
 }
 
+void writeVarUInt(AcDbDwgFiler* filer, std::uint64_t value)
+{
+    while (value >= 0x80) {
+        filer->writeUInt8(static_cast<Adesk::UInt8>((value & 0x7F) | 0x80));
+        value >>= 7;
+    }
+    filer->writeUInt8(static_cast<Adesk::UInt8>(value));
+}
+
+void writeVarInt(AcDbDwgFiler* filer, std::int64_t value)
+{
+    writeVarUInt(filer, (static_cast<std::uint64_t>(value) << 1) ^ static_cast<std::uint64_t>(value >> 63));
+}
+
+// Ten bytes at most, the tenth holding only the top bit of the 64.
+Acad::ErrorStatus readVarUInt(AcDbDwgFiler* filer, std::uint64_t& value)
+{
+    value = 0;
+    for (std::size_t i = 0; i < kMaxVarIntBytes; ++i) {
+        Adesk::UInt8 byte = 0;
+        if (filer->readUInt8(&byte) != Acad::eOk)
+            return filer->filerStatus();
+        if (i == kMaxVarIntBytes - 1 && byte > 1)
+            break;
+        value |= static_cast<std::uint64_t>(byte & 0x7F) << (7 * i);
+        if ((byte & 0x80) == 0)
+            return Acad::eOk;
+    }
+    filer->setFilerStatus(Acad::eDwgObjectImproperlyRead);
+    return Acad::eDwgObjectImproperlyRead;
+}
+
+Acad::ErrorStatus readVarInt(AcDbDwgFiler* filer, std::int64_t& value)
+{
+    std::uint64_t coded = 0;
+    if (readVarUInt(filer, coded) != Acad::eOk)
+        return filer->filerStatus();
+    value = static_cast<std::int64_t>((coded >> 1) ^ (~(coded & 1) + 1));
+    return Acad::eOk;
+}
+
+// A count that budget bytes, unitBytes (or unitBits bits) a unit, can hold.
+Acad::ErrorStatus readVarCount(AcDbDwgFiler* filer, std::size_t budget, std::size_t unitBytes, std::size_t& count,
+                               std::size_t unitsPerByte = 1)
+{
+    std::uint64_t value = 0;
+    if (readVarUInt(filer, value) != Acad::eOk)
+        return filer->filerStatus();
+    if (value / unitsPerByte > budget / unitBytes) {
+        filer->setFilerStatus(Acad::eDwgObjectImproperlyRead);
+        return Acad::eDwgObjectImproperlyRead;
+    }
+    count = static_cast<std::size_t>(value);
+    return Acad::eOk;
+}
+
 // Numbers compare by their bits, so that -0 and the payload of a NaN come back as they were.
 bool sameBits(double a, double b)
 {
@@ -215,6 +278,20 @@ bool isFlat(const std::vector<AcGePoint3d>& points)
 {
     return std::all_of(points.begin(), points.end(),
                        [](const AcGePoint3d& point) { return point.z == 0.0 && !std::signbit(point.z); });
+}
+
+bool isUnitZ(const std::vector<AcGeVector3d>& vectors)
+{
+    return vectors.size() == 1 && sameBits(vectors[0].x, 0.0) && sameBits(vectors[0].y, 0.0) &&
+        sameBits(vectors[0].z, 1.0);
+}
+
+// The sparse form when the zeros it leaves out outweigh its bit map.
+bool worthSparse(const std::vector<double>& numbers)
+{
+    const auto zeros = static_cast<std::size_t>(
+        std::count_if(numbers.begin(), numbers.end(), [](double n) { return sameBits(n, 0.0); }));
+    return zeros * sizeof(double) > (numbers.size() + 7) / 8;
 }
 
 Acad::ErrorStatus improperlyRead(AcDbDwgFiler* filer)
@@ -272,48 +349,91 @@ Acad::ErrorStatus readCompact(AcDbDwgFiler* filer, std::size_t budget, const hea
     filer->readUInt16(&parts);
     if (filer->filerStatus() != Acad::eOk)
         return filer->filerStatus();
-    if (kind > kLastKind || (parts & ~kKnownParts) != 0 || ((parts & kFlatPoints) != 0 && (parts & kPoints) == 0))
+    const auto has = [parts](Adesk::UInt16 part) { return (parts & part) != 0; };
+    if (kind > kLastKind || (parts & ~kKnownParts) != 0 || (has(kFlatPoints) && !has(kPoints)) ||
+        (has(kUnitZNormal) && has(kVectors)) || (has(kSparseNumbers) && !has(kNumbers)))
         return improperlyRead(filer);
     p.kind = static_cast<PrimitiveKind>(kind);
-    if ((parts & kDepth) != 0) {
-        Adesk::Int32 depth = 0;
-        if (filer->readInt32(&depth) != Acad::eOk)
+    if (has(kDepth)) {
+        std::uint64_t depth = 0;
+        if (readVarUInt(filer, depth) != Acad::eOk)
             return filer->filerStatus();
-        if (depth < 0)
+        if (depth > static_cast<std::uint64_t>(std::numeric_limits<int>::max()))
             return improperlyRead(filer);
-        p.depth = depth;
+        p.depth = static_cast<int>(depth);
     }
-    if ((parts & kFlatPoints) != 0) {
-        readList(filer, budget, kFlatPointBytes, p.points, [filer](AcGePoint3d& point) {
-            AcGePoint2d flat;
-            filer->readPoint2d(&flat);
-            point.set(flat.x, flat.y, 0.0);
-        });
-    } else if ((parts & kPoints) != 0) {
-        readList(filer, budget, kPointBytes, p.points, [filer](AcGePoint3d& point) { filer->readPoint3d(&point); });
+    std::size_t n = 0;
+    if (has(kPoints)) {
+        const bool flat = has(kFlatPoints);
+        if (readVarCount(filer, budget, flat ? kFlatPointBytes : kPointBytes, n) != Acad::eOk)
+            return filer->filerStatus();
+        p.points.resize(n);
+        for (AcGePoint3d& point : p.points) {
+            if (flat) {
+                AcGePoint2d xy;
+                filer->readPoint2d(&xy);
+                point.set(xy.x, xy.y, 0.0);
+            } else {
+                filer->readPoint3d(&point);
+            }
+        }
     }
-    if ((parts & kVectors) != 0)
-        readList(filer, budget, kPointBytes, p.vectors,
-                 [filer](AcGeVector3d& vector) { filer->readVector3d(&vector); });
-    if ((parts & kNumbers) != 0)
-        readList(filer, budget, sizeof(double), p.numbers, [filer](double& number) { filer->readDouble(&number); });
-    if ((parts & kIntegers) != 0)
-        readList(filer, budget, sizeof(Adesk::Int64), p.integers,
-                 [filer](Adesk::Int64& integer) { filer->readInt64(&integer); });
+    if (has(kUnitZNormal))
+        p.vectors.assign(1, AcGeVector3d::kZAxis);
+    if (has(kVectors)) {
+        if (readVarCount(filer, budget, kPointBytes, n) != Acad::eOk)
+            return filer->filerStatus();
+        p.vectors.resize(n);
+        for (AcGeVector3d& vector : p.vectors)
+            filer->readVector3d(&vector);
+    }
+    if (has(kSparseNumbers)) {
+        if (readVarCount(filer, budget, 1, n, 8) != Acad::eOk)
+            return filer->filerStatus();
+        p.numbers.assign(n, 0.0);
+        Adesk::UInt8 bits = 0;
+        for (std::size_t i = 0; i < n && filer->filerStatus() == Acad::eOk; ++i) {
+            if (i % 8 == 0)
+                filer->readUInt8(&bits);
+            if ((bits >> (i % 8)) & 1)
+                filer->readDouble(&p.numbers[i]);
+        }
+    } else if (has(kNumbers)) {
+        if (readVarCount(filer, budget, sizeof(double), n) != Acad::eOk)
+            return filer->filerStatus();
+        p.numbers.resize(n);
+        for (double& number : p.numbers)
+            filer->readDouble(&number);
+    }
+    if (has(kIntegers)) {
+        if (readVarCount(filer, budget, kMinimumVarIntBytes, n) != Acad::eOk)
+            return filer->filerStatus();
+        p.integers.resize(n);
+        for (Adesk::Int64& integer : p.integers) {
+            std::int64_t value = 0;
+            if (readVarInt(filer, value) != Acad::eOk)
+                return filer->filerStatus();
+            integer = value;
+        }
+    }
     if (filer->filerStatus() != Acad::eOk)
         return filer->filerStatus();
-    if ((parts & kText) != 0) {
+    if (has(kText)) {
         AcString text;
         if (filer->readString(text) != Acad::eOk)
             return filer->filerStatus();
         p.text = text.kwszPtr();
     }
-    if ((parts & kStyle) != 0 && readStyle(filer, p.style) != Acad::eOk)
+    if (has(kStyle) && readStyle(filer, p.style) != Acad::eOk)
         return filer->filerStatus();
     p.traits = before;
-    if ((parts & kMarker) != 0 && readMarker(filer, p.traits) != Acad::eOk)
-        return filer->filerStatus();
-    if ((parts & kTraits) != 0 && readTraitsBody(filer, p.traits) != Acad::eOk)
+    if (has(kMarker)) {
+        std::int64_t marker = 0;
+        if (readVarInt(filer, marker) != Acad::eOk)
+            return filer->filerStatus();
+        p.traits.selectionMarker = static_cast<Adesk::LongPtr>(marker);
+    }
+    if (has(kTraits) && readTraitsBody(filer, p.traits) != Acad::eOk)
         return filer->filerStatus();
     return filer->filerStatus();
 }
@@ -325,12 +445,14 @@ Acad::ErrorStatus GraphicsCodec::write(AcDbDwgFiler* filer, const std::vector<Re
     filer->writeUInt32(static_cast<Adesk::UInt32>(primitives.size()));
     headless::RecordedTraits before;
     for (const RecordedPrimitive& p : primitives) {
-        Adesk::UInt16 parts = 0;
         const bool flat = isFlat(p.points);
+        const bool unitZ = isUnitZ(p.vectors);
+        const bool sparse = worthSparse(p.numbers);
+        Adesk::UInt16 parts = 0;
         parts |= p.depth != 0 ? kDepth : 0;
         parts |= !p.points.empty() ? (flat ? kPoints | kFlatPoints : kPoints) : 0;
-        parts |= !p.vectors.empty() ? kVectors : 0;
-        parts |= !p.numbers.empty() ? kNumbers : 0;
+        parts |= unitZ ? kUnitZNormal : (!p.vectors.empty() ? kVectors : 0);
+        parts |= !p.numbers.empty() ? (sparse ? kNumbers | kSparseNumbers : kNumbers) : 0;
         parts |= !p.integers.empty() ? kIntegers : 0;
         parts |= !p.text.empty() ? kText : 0;
         parts |= !isDefaultStyle(p.style) ? kStyle : 0;
@@ -339,9 +461,9 @@ Acad::ErrorStatus GraphicsCodec::write(AcDbDwgFiler* filer, const std::vector<Re
         filer->writeUInt8(static_cast<Adesk::UInt8>(p.kind));
         filer->writeUInt16(parts);
         if ((parts & kDepth) != 0)
-            filer->writeInt32(p.depth);
+            writeVarUInt(filer, static_cast<std::uint64_t>(p.depth));
         if ((parts & kPoints) != 0) {
-            filer->writeUInt32(static_cast<Adesk::UInt32>(p.points.size()));
+            writeVarUInt(filer, p.points.size());
             for (const AcGePoint3d& point : p.points) {
                 if (flat)
                     filer->writePoint2d(AcGePoint2d(point.x, point.y));
@@ -350,26 +472,39 @@ Acad::ErrorStatus GraphicsCodec::write(AcDbDwgFiler* filer, const std::vector<Re
             }
         }
         if ((parts & kVectors) != 0) {
-            filer->writeUInt32(static_cast<Adesk::UInt32>(p.vectors.size()));
+            writeVarUInt(filer, p.vectors.size());
             for (const AcGeVector3d& vector : p.vectors)
                 filer->writeVector3d(vector);
         }
-        if ((parts & kNumbers) != 0) {
-            filer->writeUInt32(static_cast<Adesk::UInt32>(p.numbers.size()));
+        if (sparse) {
+            writeVarUInt(filer, p.numbers.size());
+            for (std::size_t first = 0; first < p.numbers.size(); first += 8) {
+                const std::size_t end = std::min(first + 8, p.numbers.size());
+                Adesk::UInt8 bits = 0;
+                for (std::size_t i = first; i < end; ++i)
+                    bits |= sameBits(p.numbers[i], 0.0) ? 0 : static_cast<Adesk::UInt8>(1 << (i - first));
+                filer->writeUInt8(bits);
+                for (std::size_t i = first; i < end; ++i) {
+                    if (!sameBits(p.numbers[i], 0.0))
+                        filer->writeDouble(p.numbers[i]);
+                }
+            }
+        } else if ((parts & kNumbers) != 0) {
+            writeVarUInt(filer, p.numbers.size());
             for (double number : p.numbers)
                 filer->writeDouble(number);
         }
         if ((parts & kIntegers) != 0) {
-            filer->writeUInt32(static_cast<Adesk::UInt32>(p.integers.size()));
+            writeVarUInt(filer, p.integers.size());
             for (Adesk::Int64 integer : p.integers)
-                filer->writeInt64(integer);
+                writeVarInt(filer, integer);
         }
         if ((parts & kText) != 0)
             filer->writeString(p.text.c_str());
         if ((parts & kStyle) != 0)
             writeStyle(filer, p.style);
         if ((parts & kMarker) != 0)
-            filer->writeInt64(static_cast<Adesk::Int64>(p.traits.selectionMarker));
+            writeVarInt(filer, static_cast<std::int64_t>(p.traits.selectionMarker));
         if ((parts & kTraits) != 0)
             writeTraitsBody(filer, p.traits);
         before = p.traits;

@@ -15,7 +15,8 @@ namespace hostfile {
 // kVerbose: drawings of format 1.0 give every primitive all five lists, a whole text style
 // and all traits. kCompact: a primitive says which parts follow; a text style only where
 // one is not the default, traits only where they change from the primitive before, points
-// in the plane z = 0 without their z. Both read back exactly what was written.
+// in the plane z = 0 without their z, numbers that are zero as one bit, counts and integers
+// in as many bytes as they need. Both read back exactly what was written.
 enum class GraphicsForm { kVerbose, kCompact };
 
 class GraphicsCodec {
