@@ -37,6 +37,11 @@ def main(path):
         if operation == "save":
             cb, pb = custom["bytes_per_entity"], plain["bytes_per_entity"]
             print(f"| bytes on file | {kind} | {count} | {cb:,.0f} B | {pb:,.0f} B | {cb / pb:.1f}x |")
+            if "json_bytes_per_entity" in custom:
+                # The target: at most twice the plain entity plus the JSON text the entity files.
+                target = 2 * pb + custom["json_bytes_per_entity"]
+                met = "met" if cb <= target else "not met"
+                print(f"| bytes against 2 x plain + JSON | {kind} | {count} | {cb:,.0f} B | {target:,.0f} B | {met} |")
 
     print()
     print("Nanoseconds per module entity by layout size (flat: linear in the entity count)")
