@@ -130,16 +130,17 @@ private:
 double JsonBytesPerEntity(AcDbDatabase* db)
 {
     const AcDbObjectIdArray ids = EntitiesOf(db);
-    JsonTextCounter counter;
+    std::size_t bytes = 0;
     for (const AcDbObjectId& id : ids) {
         AcDbEntity* entity = nullptr;
         if (acdbOpenObject(entity, id, AcDb::kForRead) != Acad::eOk)
             continue;
+        JsonTextCounter counter;  // one an entity: the filer keeps every value it is given
         entity->dwgOut(&counter);
         entity->close();
-        counter.clearLines();
+        bytes += counter.bytes;
     }
-    return ids.isEmpty() ? 0.0 : static_cast<double>(counter.bytes) / ids.length();
+    return ids.isEmpty() ? 0.0 : static_cast<double>(bytes) / ids.length();
 }
 
 void Save(benchmark::State& state, const LayoutKind& kind, Side side)
