@@ -240,7 +240,8 @@ Acad::ErrorStatus readVarInt(AcDbDwgFiler* filer, std::int64_t& value)
     return Acad::eOk;
 }
 
-// A count that budget bytes, unitBytes (or unitBits bits) a unit, can hold.
+// A count of units that the budget can hold: unitBytes bytes a unit, or unitsPerByte units
+// a byte (the bits of a bit map).
 Acad::ErrorStatus readVarCount(AcDbDwgFiler* filer, std::size_t budget, std::size_t unitBytes, std::size_t& count,
                                std::size_t unitsPerByte = 1)
 {
@@ -340,8 +341,11 @@ Acad::ErrorStatus readVerbose(AcDbDwgFiler* filer, std::size_t budget, RecordedP
     return readMarker(filer, p.traits);
 }
 
+// sparseLeft: how many more numbers the block's sparse lists may hold. Their zeros take a
+// bit each on file, so the lists of a whole block together are held to one number a byte
+// of the block (eight bytes of memory a byte read), not one a bit.
 Acad::ErrorStatus readCompact(AcDbDwgFiler* filer, std::size_t budget, const headless::RecordedTraits& before,
-                              RecordedPrimitive& p)
+                              std::size_t& sparseLeft, RecordedPrimitive& p)
 {
     Adesk::UInt8 kind = 0;
     Adesk::UInt16 parts = 0;
@@ -390,6 +394,9 @@ Acad::ErrorStatus readCompact(AcDbDwgFiler* filer, std::size_t budget, const hea
     if (has(kSparseNumbers)) {
         if (readVarCount(filer, budget, 1, n, 8) != Acad::eOk)
             return filer->filerStatus();
+        if (n > sparseLeft)
+            return improperlyRead(filer);
+        sparseLeft -= n;
         p.numbers.assign(n, 0.0);
         Adesk::UInt8 bits = 0;
         for (std::size_t i = 0; i < n && filer->filerStatus() == Acad::eOk; ++i) {
@@ -522,9 +529,11 @@ Acad::ErrorStatus GraphicsCodec::read(AcDbDwgFiler* filer, std::size_t budget,
         return filer->filerStatus();
     primitives.reserve(count);
     headless::RecordedTraits before;
+    std::size_t sparseLeft = budget;
     for (std::size_t i = 0; i < count; ++i) {
         RecordedPrimitive p;
-        const Acad::ErrorStatus es = compact ? readCompact(filer, budget, before, p) : readVerbose(filer, budget, p);
+        const Acad::ErrorStatus es =
+            compact ? readCompact(filer, budget, before, sparseLeft, p) : readVerbose(filer, budget, p);
         if (es != Acad::eOk)
             return es;
         before = p.traits;
