@@ -5,11 +5,13 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <set>
 
+#include "DrawingFilePatch.h"
 #include "FileTestSupport.h"
 #include "dbproxy.h"
 #include "headless/RecordingWorldDraw.h"
@@ -108,6 +110,142 @@ TEST_F(DrawingKeptGraphicsTest, ALineThatRepeatsTheTraitsBeforeItTakesOnlyItsKin
     const Bytes two = savedSketch(2);
     const Bytes five = savedSketch(5);
     EXPECT_EQ(five.size() - two.size(), 3 * perLine);
+}
+
+// A kept graphics block written by hand, as the drawing format describes it.
+class Block {
+public:
+    Block& u8(std::uint8_t value) { return little(value, 1); }
+    Block& u16(std::uint16_t value) { return little(value, 2); }
+    Block& u32(std::uint32_t value) { return little(value, 4); }
+    Block& f64(double value)
+    {
+        std::uint64_t bits = 0;
+        std::memcpy(&bits, &value, sizeof bits);
+        return little(bits, 8);
+    }
+    // Seven bits a byte, low bits first.
+    Block& var(std::uint64_t value)
+    {
+        for (; value >= 0x80; value >>= 7)
+            bytes.push_back(static_cast<std::uint8_t>((value & 0x7F) | 0x80));
+        bytes.push_back(static_cast<std::uint8_t>(value));
+        return *this;
+    }
+    Block& zigzag(std::int64_t value)
+    {
+        return var(value >= 0 ? 2 * static_cast<std::uint64_t>(value) : 2 * static_cast<std::uint64_t>(-value) - 1);
+    }
+    // A primitive's kind and its parts word.
+    Block& primitive(std::uint8_t kind, std::uint16_t parts) { return u8(kind).u16(parts); }
+
+    std::vector<std::uint8_t> bytes;
+
+private:
+    Block& little(std::uint64_t value, int size)
+    {
+        for (int i = 0; i < size; ++i)
+            bytes.push_back(static_cast<std::uint8_t>(value >> (8 * i)));
+        return *this;
+    }
+};
+
+// The parts bits and primitive kinds of the drawing format.
+enum : std::uint16_t {
+    kDepth = 1,
+    kPoints = 2,
+    kFlat = 4,
+    kVectors = 8,
+    kNumbers = 16,
+    kIntegers = 32,
+    kMarker = 256,
+    kUnitZ = 1024,
+    kSparse = 2048,
+};
+enum : std::uint8_t { kCircle = 0, kPolyline = 2 };
+
+Block twoFlatPoints(Block block)
+{
+    return block.var(2).f64(0.0).f64(0.0).f64(10.0).f64(0.0);
+}
+
+struct BlockCase {
+    const char* name;
+    Block block;
+    // Lines the proxy draws (each must appear, in this order), or none when the block is
+    // damaged and the proxy keeps no graphics.
+    std::vector<std::string> drawn;
+};
+
+TEST_F(DrawingKeptGraphicsTest, HandWrittenBlocksDrawAsTheFormatSaysOrAreLeftOutWhole)
+{
+    std::vector<std::uint8_t> zeroBitMaps(25, 0);
+    Block sparseBeyondTheBlock = Block().u32(1).primitive(kPolyline, kNumbers | kSparse).var(200);
+    sparseBeyondTheBlock.bytes.insert(sparseBeyondTheBlock.bytes.end(), zeroBitMaps.begin(), zeroBitMaps.end());
+    Block elevenByteCount = Block().u32(1).primitive(kPolyline, kPoints | kFlat);
+    for (int i = 0; i < 10; ++i)
+        elevenByteCount.u8(0x80);
+    elevenByteCount.u8(0x01);
+
+    const BlockCase cases[] = {
+        {"a polyline in the plane z = 0",
+         twoFlatPoints(Block().u32(1).primitive(kPolyline, kPoints | kFlat)),
+         {"polyline n=2 (0,0,0) (10,0,0) |"}},
+        {"a circle: the z axis as a bit, its radius sparse",
+         Block()
+             .u32(1)
+             .primitive(kCircle, kPoints | kFlat | kUnitZ | kNumbers | kSparse)
+             .var(1)
+             .f64(5.0)
+             .f64(5.0)
+             .var(1)
+             .u8(0x01)
+             .f64(2.5),
+         {"circle center=(5,5,0) normal=(0,0,1) radius=2.5 |"}},
+        {"a base marker zigzag-coded",
+         twoFlatPoints(Block().u32(1).primitive(kPolyline, kPoints | kFlat | kIntegers)).var(1).zigzag(7),
+         {"polyline n=2 (0,0,0) (10,0,0) baseMarker=7 |"}},
+        {"a selection marker kept by the primitive after",
+         twoFlatPoints(twoFlatPoints(Block().u32(2).primitive(kPolyline, kPoints | kFlat | kMarker))
+                           .zigzag(-3)
+                           .primitive(kPolyline, kPoints | kFlat)),
+         {"polyline n=2 (0,0,0) (10,0,0) |", "marker=-3", "polyline n=2 (0,0,0) (10,0,0) |", "marker=-3"}},
+        {"a reserved parts bit", twoFlatPoints(Block().u32(1).primitive(kPolyline, kPoints | kFlat | 0x1000)), {}},
+        {"flat points without points", Block().u32(1).primitive(kPolyline, kFlat), {}},
+        {"the z axis and vectors besides", Block().u32(1).primitive(kCircle, kUnitZ | kVectors).var(0), {}},
+        {"sparse numbers without numbers", Block().u32(1).primitive(kPolyline, kSparse), {}},
+        {"a count of eleven bytes", elevenByteCount, {}},
+        {"a depth beyond an int",
+         twoFlatPoints(Block().u32(1).primitive(kPolyline, kDepth | kPoints | kFlat).var(std::uint64_t(1) << 31)),
+         {}},
+        {"more primitives than the block holds", Block().u32(1000).primitive(kPolyline, 0), {}},
+        {"sparse zeros beyond one number a byte of the block", sparseBeyondTheBlock, {}},
+    };
+    for (const BlockCase& c : cases) {
+        SCOPED_TRACE(c.name);
+        FileTestSketch::registerWith(AcDbProxyFlags::kAllButCloningAllowed);
+        AcDbDatabase db;
+        const AcDbObjectId id = clonetest::append(&db, new FileTestSketch());
+        Bytes file = writeBytes(&db);
+        FileTestSketch::unregister();
+        ASSERT_TRUE(qxtest::PatchObjectGraphics(file, id.handle(),
+                                                [&](std::vector<std::uint8_t>& kept) { kept = c.block.bytes; }));
+        headless::CommandLineCapture capture;
+        auto read = readBytes(file);
+        ASSERT_NE(read, nullptr);
+        const std::string transcript = transcriptOf(clonetest::entitiesOf(read.get()).at(0));
+        const bool leftOut = capture.utf8().find("are damaged and were left out") != std::string::npos;
+        EXPECT_EQ(leftOut, c.drawn.empty()) << capture.utf8();
+        if (c.drawn.empty()) {
+            EXPECT_EQ(transcript, "");
+        }
+        std::size_t at = 0;
+        for (const std::string& line : c.drawn) {
+            at = transcript.find(line, at);
+            ASSERT_NE(at, std::string::npos) << line << "\n" << transcript;
+            at += line.size();
+        }
+    }
 }
 
 // The sample of the first format (1.0): graphics with every part of every primitive.

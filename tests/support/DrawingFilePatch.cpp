@@ -33,8 +33,12 @@ void PutInt32(std::vector<std::uint8_t>& bytes, std::size_t offset, std::int32_t
     Put(bytes, offset, static_cast<std::uint32_t>(value), 4);
 }
 
-bool PatchObjectBytes(std::vector<std::uint8_t>& file, const AcDbHandle& handle,
-                      const std::function<void(std::vector<std::uint8_t>&)>& edit)
+namespace {
+
+// Finds the object record of handle and lets rewrite change its payload; the frame's length
+// and checksum are brought up to date.
+bool PatchObjectPayload(std::vector<std::uint8_t>& file, const AcDbHandle& handle,
+                        const std::function<void(std::vector<std::uint8_t>&)>& rewrite)
 {
     std::size_t at = kHeaderSize;
     while (at + kFrameHead <= file.size() && std::memcmp(&file[at], kMarker, 4) == 0) {
@@ -44,19 +48,9 @@ bool PatchObjectBytes(std::vector<std::uint8_t>& file, const AcDbHandle& handle,
         if (payload + length + 4 > file.size())
             return false;
         if (kind == 'O' && Get(file, payload, 8) == handle.value()) {
-            // handle (8), class (4), owner (8), flags (4), then the counted object bytes.
-            const std::size_t countAt = payload + 24;
-            const auto count = static_cast<std::size_t>(Get(file, countAt, 4));
-            std::vector<std::uint8_t> object(file.begin() + static_cast<long>(countAt + 4),
-                                             file.begin() + static_cast<long>(countAt + 4 + count));
-            edit(object);
             std::vector<std::uint8_t> rebuilt(file.begin() + static_cast<long>(payload),
-                                              file.begin() + static_cast<long>(countAt));
-            rebuilt.resize(rebuilt.size() + 4);
-            Put(rebuilt, rebuilt.size() - 4, object.size(), 4);
-            rebuilt.insert(rebuilt.end(), object.begin(), object.end());
-            rebuilt.insert(rebuilt.end(), file.begin() + static_cast<long>(countAt + 4 + count),
-                           file.begin() + static_cast<long>(payload + length));
+                                              file.begin() + static_cast<long>(payload + length));
+            rewrite(rebuilt);
             std::vector<std::uint8_t> frame(file.begin() + static_cast<long>(at),
                                             file.begin() + static_cast<long>(payload));
             Put(frame, 5, rebuilt.size(), 4);
@@ -72,6 +66,51 @@ bool PatchObjectBytes(std::vector<std::uint8_t>& file, const AcDbHandle& handle,
         at = payload + length + 4;
     }
     return false;
+}
+
+// Replaces the counted block at countAt of payload with what edit makes of it.
+void EditCounted(std::vector<std::uint8_t>& payload, std::size_t countAt,
+                 const std::function<void(std::vector<std::uint8_t>&)>& edit)
+{
+    const auto count = static_cast<std::size_t>(Get(payload, countAt, 4));
+    std::vector<std::uint8_t> block(payload.begin() + static_cast<long>(countAt + 4),
+                                    payload.begin() + static_cast<long>(countAt + 4 + count));
+    edit(block);
+    payload.erase(payload.begin() + static_cast<long>(countAt),
+                  payload.begin() + static_cast<long>(countAt + 4 + count));
+    std::vector<std::uint8_t> counted(4);
+    Put(counted, 0, block.size(), 4);
+    counted.insert(counted.end(), block.begin(), block.end());
+    payload.insert(payload.begin() + static_cast<long>(countAt), counted.begin(), counted.end());
+}
+
+// handle (8), class (4), owner (8), flags (4), then the counted object bytes.
+constexpr std::size_t kObjectBytesAt = 24;
+constexpr std::size_t kReferenceEntryBytes = 5;
+
+}  // namespace
+
+bool PatchObjectBytes(std::vector<std::uint8_t>& file, const AcDbHandle& handle,
+                      const std::function<void(std::vector<std::uint8_t>&)>& edit)
+{
+    return PatchObjectPayload(file, handle,
+                              [&](std::vector<std::uint8_t>& payload) { EditCounted(payload, kObjectBytesAt, edit); });
+}
+
+bool PatchObjectGraphics(std::vector<std::uint8_t>& file, const AcDbHandle& handle,
+                         const std::function<void(std::vector<std::uint8_t>&)>& edit)
+{
+    bool hadGraphics = false;
+    const bool found = PatchObjectPayload(file, handle, [&](std::vector<std::uint8_t>& payload) {
+        if ((Get(payload, 20, 4) & 1) == 0)
+            return;
+        hadGraphics = true;
+        // The object bytes, then the reference table, then the counted graphics.
+        const std::size_t referencesAt = kObjectBytesAt + 4 + static_cast<std::size_t>(Get(payload, kObjectBytesAt, 4));
+        const auto references = static_cast<std::size_t>(Get(payload, referencesAt, 4));
+        EditCounted(payload, referencesAt + 4 + references * kReferenceEntryBytes, edit);
+    });
+    return found && hadGraphics;
 }
 
 }  // namespace qxtest

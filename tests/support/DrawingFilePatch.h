@@ -16,6 +16,11 @@ namespace qxtest {
 bool PatchObjectBytes(std::vector<std::uint8_t>& file, const AcDbHandle& handle,
                       const std::function<void(std::vector<std::uint8_t>&)>& edit);
 
+// The same for the object's kept graphics (the block after its reference table). Answers
+// false when the file has no such record or the record keeps no graphics.
+bool PatchObjectGraphics(std::vector<std::uint8_t>& file, const AcDbHandle& handle,
+                         const std::function<void(std::vector<std::uint8_t>&)>& edit);
+
 // Writes value little-endian at offset of bytes.
 void PutInt32(std::vector<std::uint8_t>& bytes, std::size_t offset, std::int32_t value);
 
