@@ -19,6 +19,7 @@
 #include "dbsymtb.h"
 #include "headless/CommandLine.h"
 #include "headless/DrawingFile.h"
+#include "headless/MemoryDwgFiler.h"
 #include "headless/RecordingDwgFiler.h"
 #include "headless/RecordingWorldDraw.h"
 #include "headless/TextCodec.h"
@@ -127,6 +128,24 @@ private:
     }
 };
 
+// The bytes of the entities' own records (what their dwgOut writes through a file filer),
+// a share of what a drawing holds for them besides the kept graphics and the framing.
+double RecordBytesPerEntity(AcDbDatabase* db)
+{
+    const AcDbObjectIdArray ids = EntitiesOf(db);
+    std::size_t bytes = 0;
+    for (const AcDbObjectId& id : ids) {
+        AcDbEntity* entity = nullptr;
+        if (acdbOpenObject(entity, id, AcDb::kForRead) != Acad::eOk)
+            continue;
+        headless::MemoryDwgFiler filer(AcDb::kFileFiler, db);
+        entity->dwgOut(&filer);
+        entity->close();
+        bytes += filer.bytes().size();
+    }
+    return ids.isEmpty() ? 0.0 : static_cast<double>(bytes) / ids.length();
+}
+
 double JsonBytesPerEntity(AcDbDatabase* db)
 {
     const AcDbObjectIdArray ids = EntitiesOf(db);
@@ -157,6 +176,7 @@ void Save(benchmark::State& state, const LayoutKind& kind, Side side)
     }
     SetRate(state, count);
     state.counters["bytes_per_entity"] = static_cast<double>(bytes.size() - emptyBytes) / count;
+    state.counters["record_bytes_per_entity"] = RecordBytesPerEntity(db.get());
     if (side == Side::kCustom)
         state.counters["json_bytes_per_entity"] = JsonBytesPerEntity(db.get());
 }
