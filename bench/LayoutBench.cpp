@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <clocale>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -128,38 +129,39 @@ private:
     }
 };
 
+// What measure answers for each entity of db, on average.
+double AveragePerEntity(AcDbDatabase* db, const std::function<std::size_t(const AcDbEntity*)>& measure)
+{
+    const AcDbObjectIdArray ids = EntitiesOf(db);
+    std::size_t total = 0;
+    for (const AcDbObjectId& id : ids) {
+        AcDbEntity* entity = nullptr;
+        if (acdbOpenObject(entity, id, AcDb::kForRead) != Acad::eOk)
+            continue;
+        total += measure(entity);
+        entity->close();
+    }
+    return ids.isEmpty() ? 0.0 : static_cast<double>(total) / ids.length();
+}
+
 // The bytes of the entities' own records (what their dwgOut writes through a file filer),
 // a share of what a drawing holds for them besides the kept graphics and the framing.
 double RecordBytesPerEntity(AcDbDatabase* db)
 {
-    const AcDbObjectIdArray ids = EntitiesOf(db);
-    std::size_t bytes = 0;
-    for (const AcDbObjectId& id : ids) {
-        AcDbEntity* entity = nullptr;
-        if (acdbOpenObject(entity, id, AcDb::kForRead) != Acad::eOk)
-            continue;
+    return AveragePerEntity(db, [db](const AcDbEntity* entity) {
         headless::MemoryDwgFiler filer(AcDb::kFileFiler, db);
         entity->dwgOut(&filer);
-        entity->close();
-        bytes += filer.bytes().size();
-    }
-    return ids.isEmpty() ? 0.0 : static_cast<double>(bytes) / ids.length();
+        return filer.bytes().size();
+    });
 }
 
 double JsonBytesPerEntity(AcDbDatabase* db)
 {
-    const AcDbObjectIdArray ids = EntitiesOf(db);
-    std::size_t bytes = 0;
-    for (const AcDbObjectId& id : ids) {
-        AcDbEntity* entity = nullptr;
-        if (acdbOpenObject(entity, id, AcDb::kForRead) != Acad::eOk)
-            continue;
+    return AveragePerEntity(db, [](const AcDbEntity* entity) {
         JsonTextCounter counter;  // one an entity: the filer keeps every value it is given
         entity->dwgOut(&counter);
-        entity->close();
-        bytes += counter.bytes;
-    }
-    return ids.isEmpty() ? 0.0 : static_cast<double>(bytes) / ids.length();
+        return counter.bytes;
+    });
 }
 
 void Save(benchmark::State& state, const LayoutKind& kind, Side side)

@@ -103,9 +103,10 @@ TEST_F(DrawingKeptGraphicsTest, AProxyDrawsEveryKindOfPrimitiveAsItsEntityDrewIt
 
 TEST_F(DrawingKeptGraphicsTest, ALineThatRepeatsTheTraitsBeforeItTakesOnlyItsKindPartsPointsAndMarker)
 {
-    // Kind 1 byte, parts 2, the count of points 1 and two points in the plane z = 0 as
-    // 2 x 2 doubles (32), the count of integers 1 and the base marker every polyline
-    // records (-1, zigzag-coded in one byte); no depth, style or traits.
+    // The kind (one byte), the parts word (two), the count of points (one) and two points
+    // in the plane z = 0 as 2 x 2 doubles (32), the count of integers (one) and the base
+    // marker every polyline records (-1, zigzag-coded in one byte); no depth, style or
+    // traits.
     const std::size_t perLine = 1 + 2 + 1 + 32 + 1 + 1;
     const Bytes two = savedSketch(2);
     const Bytes five = savedSketch(5);
